@@ -1,0 +1,72 @@
+# Build helpers shared by every folder.
+
+function(qs_set_warnings target)
+    target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic)
+    if(QS_WARNINGS_AS_ERRORS)
+        target_compile_options(${target} PRIVATE -Werror)
+    endif()
+endfunction()
+
+# qs_add_library(name folder deps...): a static library of every .cpp/.h in src/<folder>.
+function(qs_add_library name folder)
+    file(GLOB _srcs CONFIGURE_DEPENDS
+        ${CMAKE_CURRENT_SOURCE_DIR}/${folder}/*.cpp
+        ${CMAKE_CURRENT_SOURCE_DIR}/${folder}/*.h
+        ${CMAKE_CURRENT_SOURCE_DIR}/${folder}/*.qrc)
+    list(FILTER _srcs INCLUDE REGEX "\\.cpp$")
+    if(NOT _srcs)
+        # A folder that holds only headers so far.
+        add_library(${name} INTERFACE)
+        target_include_directories(${name} INTERFACE ${CMAKE_CURRENT_SOURCE_DIR}/${folder})
+        target_link_libraries(${name} INTERFACE ${ARGN})
+        return()
+    endif()
+    file(GLOB _all CONFIGURE_DEPENDS
+        ${CMAKE_CURRENT_SOURCE_DIR}/${folder}/*.cpp
+        ${CMAKE_CURRENT_SOURCE_DIR}/${folder}/*.h
+        ${CMAKE_CURRENT_SOURCE_DIR}/${folder}/*.qrc)
+    add_library(${name} STATIC ${_all})
+    target_include_directories(${name} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR}/${folder})
+    target_link_libraries(${name} PUBLIC ${ARGN})
+    qs_set_warnings(${name})
+endfunction()
+
+# The window subsystems: each folder under src/ that has sources becomes a library that may call
+# any other of the group.  QS_GUI_GROUP lists the ones that exist.
+macro(qs_add_gui_group core)
+    set(QS_GUI_GROUP "")
+    foreach(_lib ${ARGN})
+        string(REPLACE "qs_" "" _folder ${_lib})
+        file(GLOB _probe CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/src/${_folder}/*.cpp)
+        if(_probe)
+            qs_add_library(${_lib} src/${_folder} qs_platform qs_dataservice)
+            list(APPEND QS_GUI_GROUP ${_lib})
+        endif()
+    endforeach()
+    foreach(_lib ${QS_GUI_GROUP})
+        target_link_libraries(${_lib} PUBLIC ${core})
+        target_link_libraries(${core} PUBLIC ${_lib})
+    endforeach()
+endmacro()
+
+# qs_add_test_folder(folder libs...): one GoogleTest executable of tests/<folder>/*.cpp, run
+# offscreen under a private home with a time limit and the folder as label.
+function(qs_add_test_folder folder)
+    file(GLOB _srcs CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${folder}/*.cpp
+                                       ${CMAKE_CURRENT_SOURCE_DIR}/${folder}/*.h)
+    if(NOT _srcs)
+        return()
+    endif()
+    set(_exe tests_${folder})
+    add_executable(${_exe} ${_srcs})
+    target_link_libraries(${_exe} PRIVATE qs_testsupport ${ARGN})
+    target_include_directories(${_exe} PRIVATE ${CMAKE_CURRENT_SOURCE_DIR}/${folder})
+    qs_set_warnings(${_exe})
+    gtest_discover_tests(${_exe}
+        DISCOVERY_TIMEOUT 60
+        PROPERTIES
+            LABELS ${folder}
+            TIMEOUT 300
+            ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QS_SOURCE_DIR=${PROJECT_SOURCE_DIR}"
+        )
+endfunction()

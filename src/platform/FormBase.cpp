@@ -1,0 +1,122 @@
+#include "FormBase.h"
+
+#include "Host.h"
+
+#include <QCloseEvent>
+#include <QGuiApplication>
+#include <QScreen>
+
+namespace qs {
+
+namespace {
+QList<FormBase*>& loadedForms() {
+    static QList<FormBase*> forms;
+    return forms;
+}
+std::function<void()>& onEmpty() {
+    static std::function<void()> callback;
+    return callback;
+}
+} // namespace
+
+FormBase::FormBase(const QString& name, QWidget* parent) : QDialog(parent) {
+    setObjectName(name);
+    // Forms are top-level windows with the ordinary frame, not dialogs with a help button.
+    setWindowFlags(Qt::Window | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+                   Qt::WindowMinMaxButtonsHint | Qt::WindowCloseButtonHint);
+}
+
+FormBase::~FormBase() { Forms::remove(this); }
+
+void FormBase::load() {
+    mLoaded = true;
+    Form_Load();
+}
+
+void FormBase::Show(int mode) {
+    if (mode == vbModal) {
+        host().showModal(*this);
+        return;
+    }
+    show();
+    raise();
+}
+
+void FormBase::CenterOnScreen() {
+    QScreen* screen = QGuiApplication::primaryScreen();
+    if (!screen)
+        return;
+    const QRect area = screen->availableGeometry();
+    move(area.center() - QPoint(width() / 2, height() / 2));
+}
+
+bool FormBase::Unload() {
+    if (mUnloading || !mLoaded)
+        return true;
+    int cancel = 0;
+    Form_Unload(cancel);
+    if (cancel != 0)
+        return false;
+    mUnloading = true;
+    mLoaded = false;
+    hide();
+    if (QDialog::result() == 0 && isModal())
+        done(0);
+    Forms::remove(this);
+    deleteLater();
+    return true;
+}
+
+void FormBase::closeEvent(QCloseEvent* event) {
+    if (mUnloading) {
+        event->accept();
+        return;
+    }
+    if (Unload())
+        event->accept();
+    else
+        event->ignore();
+}
+
+void FormBase::showEvent(QShowEvent* event) {
+    QDialog::showEvent(event);
+    Form_Activate();
+}
+
+void FormBase::reject() {
+    // Escape closes the window the way its close box does.
+    close();
+}
+
+FormBase* Forms::findByName(const QString& name) {
+    for (FormBase* f : loadedForms())
+        if (f->objectName() == name)
+            return f;
+    return nullptr;
+}
+
+QList<FormBase*> Forms::all() { return loadedForms(); }
+
+int Forms::count() { return loadedForms().size(); }
+
+void Forms::setOnEmpty(std::function<void()> callback) { onEmpty() = std::move(callback); }
+
+void Forms::destroyAll() {
+    const QList<FormBase*> forms = loadedForms();
+    loadedForms().clear();
+    for (FormBase* f : forms) {
+        f->mUnloading = true;
+        f->mLoaded = false;
+        delete f;
+    }
+}
+
+void Forms::add(FormBase* form) { loadedForms().append(form); }
+
+void Forms::remove(FormBase* form) {
+    const bool wasThere = loadedForms().removeOne(form);
+    if (wasThere && loadedForms().isEmpty() && onEmpty())
+        onEmpty()();
+}
+
+} // namespace qs
