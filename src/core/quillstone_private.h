@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QString>
+#include <QVariant>
+
+namespace qs {
+
+class ComboBox;
+
+// The start procedure: refuses a second instance, creates the service object, works out the
+// settings file, makes sure a database and a user exist, and shows frmLogin.  Returns once the
+// login window is up; everything after that happens in event handlers.
+void Main();
+
+// True when the database holds at least one user, and also after the database-missing dialog has
+// run.  False (after telling the user) when the database holds none; gblnFirstUser is then set.
+bool UsersExist();
+
+// Unloads every loaded form whose name differs from strExcept; "" unloads them all.
+void UnloadAllForms(const QString& strExcept = QString());
+
+// The settings file: FormatPath(Datafiles\FilePath) & Datafiles\FileName, each read with its
+// default.  The file need not exist.
+QString SettingsFilePath();
+
+// Fills a combo box from a table of the library: "Authors" and "Users" from their lists, every
+// other table ("Category", "CodeType", "FileType", "AccessType", "CodeStatus") from its lookup
+// rows, whose id, code and description are shown as showField1..3 ask, joined by " - ".
+// Replaces gobjLibrary with a fresh service object first.
+void FillComboBox(const QString& strTable, ComboBox* cboCombo, bool blnShowField1 = false,
+                  bool blnShowField2 = false, bool blnShowField3 = true,
+                  const QString& strFormat = QString(), bool blnSetItemData = true,
+                  bool blnClearFirst = true, const QVariant& varCriteria = QVariant());
+
+} // namespace qs
