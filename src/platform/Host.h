@@ -23,7 +23,15 @@ enum MsgBoxStyle : int {
     vbDefaultButton2 = 256,
     vbDefaultButton3 = 512,
 };
-enum MsgBoxResult : int { vbOK = 1, vbCancel = 2, vbAbort = 3, vbRetry = 4, vbIgnore = 5, vbYes = 6, vbNo = 7 };
+enum MsgBoxResult : int {
+    vbOK = 1,
+    vbCancel = 2,
+    vbAbort = 3,
+    vbRetry = 4,
+    vbIgnore = 5,
+    vbYes = 6,
+    vbNo = 7
+};
 
 // Screen pointer values.
 enum MousePointer : int { vbDefault = 0, vbHourglass = 11 };
@@ -48,6 +56,10 @@ struct PrinterChoice {
     QString printerName;
     int copies = 1;
 };
+
+// What a scripted End throws in tests, so that the flow stops there as the real End stops the
+// process.  It is no std::exception and HandleFailure lets it through; nothing else catches it.
+struct ProcessEnded {};
 
 // The one door through which the logic reaches a person or the desktop.  QtHost does it for real;
 // tests install a scripted host that answers from queues and records every call.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDateTime>
 #include <QString>
 
 namespace qs {
@@ -16,6 +17,9 @@ void DisplayErrInfo(const QString& strSource, long lngNumber, const QString& str
 void ErrWriteToLog(long lngNumber, const QString& strSource, const QString& strDescription,
                    long lngKind);
 void OpenLogFile();
+// The text one log entry adds (with the header when glngLogMode is 2), stamped with `when`.
+QString LogEntryText(long lngNumber, const QString& strSource, const QString& strDescription,
+                     long lngKind, const QDateTime& when);
 void CloseLogFile();
 
 // The failure tail of a procedure, called from its catch-all handler:
@@ -24,9 +28,9 @@ void CloseLogFile();
 // error), reports it through DisplayErrInfo with the error's source followed by `literal`, and
 // puts the mouse pointer back.
 enum class FailureTail {
-    Standard,       // report, then the pointer back to default
-    KeepPointer,    // report only (the small procedures that leave the pointer alone)
-    ClearError,     // report, pointer back, error cleared (Main)
+    Standard,    // report, then the pointer back to default
+    KeepPointer, // report only (the small procedures that leave the pointer alone)
+    ClearError,  // report, pointer back, error cleared (Main)
 };
 void HandleFailure(const char* literal, FailureTail tail = FailureTail::Standard);
 
