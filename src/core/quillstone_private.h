@@ -6,6 +6,7 @@
 namespace qs {
 
 class ComboBox;
+class frmMain;
 
 // The start procedure: refuses a second instance, creates the service object, works out the
 // settings file, makes sure a database and a user exist, and shows frmLogin.  Returns once the
@@ -22,6 +23,11 @@ void UnloadAllForms(const QString& strExcept = QString());
 // The settings file: FormatPath(Datafiles\FilePath) & Datafiles\FileName, each read with its
 // default.  The file need not exist.
 QString SettingsFilePath();
+
+// Selects on frmMain the search choices saved under SearchSettings: the entries of cboCategory,
+// cboCodeType and cboTestedOrUntested equal to the saved texts (the last equal entry wins) and
+// the search option named by LastSearchCriteria.
+void RestoreSearchSettings(frmMain& main);
 
 // Fills a combo box from a table of the library: "Authors" and "Users" from their lists, every
 // other table ("Category", "CodeType", "FileType", "AccessType", "CodeStatus") from its lookup
