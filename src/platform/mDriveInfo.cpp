@@ -1,0 +1,61 @@
+#include "mDriveInfo.h"
+
+#include "mErrorHandling.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+namespace qs {
+
+namespace {
+QString trimBlanks(const QString& text) {
+    int start = 0;
+    int end = text.size();
+    while (start < end && text[start] == QLatin1Char(' '))
+        ++start;
+    while (end > start && text[end - 1] == QLatin1Char(' '))
+        --end;
+    return text.mid(start, end - start);
+}
+} // namespace
+
+QString FormatPath(const QString& strPath) {
+    try {
+        if (strPath.endsWith(kPathSeparator))
+            return strPath;
+        return strPath + kPathSeparator;
+    } catch (...) {
+        HandleFailure("FileAccess:FormatPath;");
+        return strPath;
+    }
+}
+
+QString TrimNull(const QString& strText) {
+    const int nul = strText.indexOf(QChar(0));
+    if (nul >= 0)
+        return strText.left(nul);
+    return trimBlanks(strText);
+}
+
+QString ExtractFilePath(const QString& strPath, bool blnKeepSlash) {
+    const int last = strPath.lastIndexOf(kPathSeparator);
+    if (last < 0)
+        return QString();
+    return strPath.left(blnKeepSlash ? last + 1 : last);
+}
+
+bool FileExists(const QString& strPath) {
+    if (strPath.isEmpty())
+        return false;
+    const QFileInfo info(strPath);
+    const QString name = info.fileName();
+    if (name.contains(QLatin1Char('*')) || name.contains(QLatin1Char('?'))) {
+        const QDir dir = info.dir();
+        return dir.exists() && !dir.entryList({name}, QDir::AllEntries | QDir::Hidden |
+                                                          QDir::System | QDir::NoDotAndDotDot)
+                                    .isEmpty();
+    }
+    return info.exists();
+}
+
+} // namespace qs
