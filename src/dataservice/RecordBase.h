@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QString>
+
+namespace qs {
+
+// What every record shares: the database file it belongs to and the editing discipline.
+// BeginEdit(0) opens the record; fields are set; Deleted may be set; Save writes, in one
+// transaction, and closes the record again.  Nothing is written before Save, and a Save without
+// BeginEdit raises "Object is read-only.".  A record keeps the path of its file, not a
+// connection: it stays usable after the service object that handed it out is gone, and each
+// Save opens its own connection.  A record made by its default constructor belongs to the
+// database the settings name at the moment it is made.
+class RecordBase {
+public:
+    void BeginEdit(int flag = 0);
+    void Deleted(bool value) { mDeleted = value; }
+    bool Deleted() const { return mDeleted; }
+    bool IsEditing() const { return mEditing; }
+    // The file this record is read from and saved to.
+    const QString& DatabasePath() const { return mDatabasePath; }
+
+protected:
+    RecordBase();
+    explicit RecordBase(const QString& databasePath) : mDatabasePath(databasePath) {}
+
+    // Raises "Object is read-only." unless BeginEdit was called; source names the Save.
+    void checkEditing(const QString& source) const;
+    void endEdit() {
+        mEditing = false;
+        mDeleted = false;
+    }
+
+    QString mDatabasePath;
+    bool mEditing = false;
+    bool mDeleted = false;
+};
+
+} // namespace qs

@@ -1,0 +1,265 @@
+#include "SqliteStore.h"
+
+#include "LibrarySchema.h"
+#include "ServiceErrors.h"
+
+#include <QAtomicInteger>
+#include <QDateTime>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSqlError>
+
+namespace qs {
+
+namespace {
+
+QAtomicInteger<quint64> gConnectionCounter;
+std::function<void()> gBeforeCommitHook;
+
+const QByteArray kSqliteMagic("SQLite format 3\0", 16);
+constexpr int kHeaderSize = 100;
+constexpr int kApplicationIdOffset = 68;
+
+QString nextConnectionName() {
+    return QStringLiteral("qs_store_%1").arg(++gConnectionCounter);
+}
+
+} // namespace
+
+bool SqliteStore::hasLibraryHeader(const QString& path) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return false;
+    const QByteArray header = file.read(kHeaderSize);
+    if (header.size() < kHeaderSize || !header.startsWith(kSqliteMagic))
+        return false;
+    const auto* p = reinterpret_cast<const uchar*>(header.constData()) + kApplicationIdOffset;
+    const quint32 id =
+        (quint32(p[0]) << 24) | (quint32(p[1]) << 16) | (quint32(p[2]) << 8) | quint32(p[3]);
+    return id == kApplicationId;
+}
+
+SqliteStore::SqliteStore(const QString& path, const QString& connectionName)
+    : mPath(path), mConnectionName(connectionName) {}
+
+SqliteStore::~SqliteStore() {
+    if (mDb.isValid()) {
+        mDb.close();
+        mDb = QSqlDatabase();
+        QSqlDatabase::removeDatabase(mConnectionName);
+    }
+}
+
+void SqliteStore::connect(const QString& source) {
+    mDb = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), mConnectionName);
+    mDb.setDatabaseName(mPath);
+    mDb.setConnectOptions(QStringLiteral("QSQLITE_BUSY_TIMEOUT=%1").arg(kBusyTimeoutMs));
+    if (!mDb.open())
+        raiseStorage(mDb.lastError().text(), source);
+    QSqlQuery pragma(mDb);
+    pragma.exec(QStringLiteral("PRAGMA foreign_keys = ON"));
+}
+
+void SqliteStore::raiseStorage(const QString& text, const QString& source) {
+    RaiseServiceError(kErrStorage, source, text);
+}
+
+std::unique_ptr<SqliteStore> SqliteStore::open(const QString& path, const QString& source) {
+    const QFileInfo info(path);
+    if (path.isEmpty() || !info.exists())
+        RaiseServiceError(kErrDatabaseNotFound, source);
+    if (!info.isFile() || !hasLibraryHeader(path))
+        RaiseServiceError(kErrDatabaseCorrupt, source);
+
+    std::unique_ptr<SqliteStore> store(new SqliteStore(path, nextConnectionName()));
+    try {
+        store->connect(source);
+    } catch (const QsError&) {
+        RaiseServiceError(kErrDatabaseCorrupt, source);
+    }
+
+    // Reads only, until the file has shown itself to be a library this program knows.
+    QSqlQuery tables(store->mDb);
+    tables.setForwardOnly(true);
+    if (!tables.exec(QStringLiteral("SELECT name FROM sqlite_master WHERE type = 'table'")))
+        RaiseServiceError(kErrDatabaseCorrupt, source);
+    QStringList present;
+    while (tables.next())
+        present << tables.value(0).toString();
+    tables.finish();
+    if (!present.contains(QStringLiteral("SchemaVersion")))
+        RaiseServiceError(kErrDatabaseCorrupt, source);
+    QSqlQuery version(store->mDb);
+    if (!version.exec(QStringLiteral("SELECT MAX(Version) FROM SchemaVersion")) || !version.next())
+        RaiseServiceError(kErrDatabaseCorrupt, source);
+    const int fileVersion = version.value(0).toInt();
+    version.finish();
+    if (fileVersion < 1 || fileVersion > LatestSchemaVersion())
+        RaiseServiceError(kErrDatabaseCorrupt, source);
+    if (fileVersion == LatestSchemaVersion()) {
+        for (const QString& table : RequiredTables())
+            if (!present.contains(table))
+                RaiseServiceError(kErrDatabaseCorrupt, source);
+    }
+
+    // From here on the file is ours to write.
+    if (fileVersion < LatestSchemaVersion())
+        store->migrate(fileVersion, source);
+    QSqlQuery mode(store->mDb);
+    if (mode.exec(QStringLiteral("PRAGMA journal_mode")) && mode.next() &&
+        mode.value(0).toString().compare(QStringLiteral("wal"), Qt::CaseInsensitive) != 0) {
+        mode.finish();
+        mode.exec(QStringLiteral("PRAGMA journal_mode = WAL"));
+    }
+    mode.finish();
+    return store;
+}
+
+void SqliteStore::migrate(int fromVersion, const QString& source) {
+    Transaction transaction(*this, source);
+    for (const SchemaMigration& step : SchemaMigrations()) {
+        if (step.version <= fromVersion)
+            continue;
+        for (const QString& statement : step.statements) {
+            QSqlQuery query(mDb);
+            if (!query.exec(statement))
+                raiseStorage(query.lastError().text(), source);
+        }
+        run(QStringLiteral("INSERT INTO SchemaVersion (Version, AppliedOn) VALUES (?, ?)"),
+            {step.version, StoredDate(QDateTime::currentDateTime())}, source);
+    }
+    transaction.commit();
+}
+
+void SqliteStore::create(const QString& path, const QString& settingsFile, const QString& source) {
+    if (path.isEmpty())
+        RaiseServiceError(kErrMissingParameters, source);
+    if (QFileInfo::exists(path))
+        RaiseServiceError(
+            kErrStorage, source,
+            QStringLiteral("A file already exists at %1.").arg(QDir::toNativeSeparators(path)));
+    const QFileInfo info(path);
+    QDir().mkpath(info.absolutePath());
+    const QString building = path + QStringLiteral(".building");
+    for (const QString& suffix : {QString(), QStringLiteral("-wal"), QStringLiteral("-shm")})
+        QFile::remove(building + suffix);
+    {
+        SqliteStore store(building, nextConnectionName());
+        try {
+            store.connect(source);
+            QSqlQuery setup(store.mDb);
+            if (!setup.exec(QStringLiteral("PRAGMA application_id = %1").arg(kApplicationId)) ||
+                !setup.exec(QStringLiteral("PRAGMA journal_mode = WAL")))
+                store.raiseStorage(setup.lastError().text(), source);
+            setup.finish();
+            store.run(QStringLiteral("CREATE TABLE SchemaVersion (Version INTEGER PRIMARY KEY, "
+                                     "AppliedOn TEXT NOT NULL)"),
+                      {}, source);
+            store.migrate(0, source);
+            const QString now = StoredDate(QDateTime::currentDateTime()).toString();
+            store.run(QStringLiteral("INSERT INTO LibraryInfo (Name, Value) VALUES "
+                                     "('Application', 'Quillstone'), ('Created', ?), "
+                                     "('SettingsFile', ?)"),
+                      {now, settingsFile}, source);
+        } catch (...) {
+            store.mDb.close();
+            for (const QString& suffix :
+                 {QString(), QStringLiteral("-wal"), QStringLiteral("-shm")})
+                QFile::remove(building + suffix);
+            throw;
+        }
+    }
+    if (!QFile::rename(building, path)) {
+        QFile::remove(building);
+        RaiseServiceError(kErrStorage, source,
+                          QStringLiteral("The database could not be written at %1.")
+                              .arg(QDir::toNativeSeparators(path)));
+    }
+}
+
+QSqlQuery SqliteStore::prepare(const QString& sql, const QString& source) {
+    QSqlQuery query(mDb);
+    query.setForwardOnly(true);
+    if (!query.prepare(sql))
+        raiseStorage(query.lastError().text(), source);
+    return query;
+}
+
+void SqliteStore::exec(QSqlQuery& query, const QString& source) {
+    if (query.exec())
+        return;
+    const QString text = query.lastError().text();
+    // A reference to a row that isn't there is a caller's bad id; a second user of one id is
+    // the one uniqueness rule a caller can run into.
+    if (text.contains(QLatin1String("FOREIGN KEY constraint failed")))
+        RaiseServiceError(kErrMissingParameters, source);
+    if (text.contains(QLatin1String("UNIQUE constraint failed: Users.UserId")))
+        RaiseServiceError(kErrDuplicateUser, source);
+    raiseStorage(text, source);
+}
+
+QSqlQuery SqliteStore::run(const QString& sql, const QVariantList& binds, const QString& source) {
+    QSqlQuery query = prepare(sql, source);
+    for (const QVariant& value : binds)
+        query.addBindValue(value);
+    exec(query, source);
+    return query;
+}
+
+QVariant SqliteStore::scalar(const QString& sql, const QVariantList& binds, const QString& source) {
+    QSqlQuery query = run(sql, binds, source);
+    QVariant value;
+    if (query.next())
+        value = query.value(0);
+    query.finish();
+    return value;
+}
+
+SqliteStore::Transaction::Transaction(SqliteStore& store, const QString& source)
+    : mStore(store), mSource(source) {
+    QSqlQuery begin(mStore.mDb);
+    if (!begin.exec(QStringLiteral("BEGIN IMMEDIATE")))
+        mStore.raiseStorage(begin.lastError().text(), mSource);
+    mOpen = true;
+}
+
+SqliteStore::Transaction::~Transaction() {
+    if (mOpen) {
+        QSqlQuery rollback(mStore.mDb);
+        rollback.exec(QStringLiteral("ROLLBACK"));
+    }
+}
+
+void SqliteStore::Transaction::commit() {
+    if (gBeforeCommitHook)
+        gBeforeCommitHook();
+    QSqlQuery commit(mStore.mDb);
+    if (!commit.exec(QStringLiteral("COMMIT")))
+        mStore.raiseStorage(commit.lastError().text(), mSource);
+    mOpen = false;
+}
+
+void SqliteStore::setBeforeCommitHook(std::function<void()> hook) {
+    gBeforeCommitHook = std::move(hook);
+}
+
+QVariant StoredDate(const QDateTime& value) {
+    if (!value.isValid())
+        return QVariant(QMetaType(QMetaType::QString));
+    return value.toUTC().toString(Qt::ISODateWithMs);
+}
+
+QDateTime DateFromStored(const QVariant& value) {
+    if (value.isNull())
+        return QDateTime();
+    return QDateTime::fromString(value.toString(), Qt::ISODateWithMs).toLocalTime();
+}
+
+QVariant OptionalId(int id) {
+    if (id == 0)
+        return QVariant(QMetaType(QMetaType::Int));
+    return id;
+}
+
+} // namespace qs

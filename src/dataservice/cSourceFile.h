@@ -1,0 +1,106 @@
+#pragma once
+
+#include "RecordBase.h"
+#include "SourceFileFacts.h"
+#include "cRevisions.h"
+
+#include <QDateTime>
+#include <QString>
+#include <functional>
+
+namespace qs {
+
+class SqliteStore;
+class cFileInfo;
+
+// One stored file (an article or a component) or a folder of them, a row of SourceFile.  The
+// bytes live in the database (SourceFileChunk), with the facts learned when the file was loaded.
+//
+// Save(out id) writes the catalogue fields, the file facts, the stored bytes when a file was
+// loaded, and the revision lines added since the record was read, in one transaction.
+// - a new record needs CategoryId and FileTypeId (101 or 102) of existing rows, else
+//   kErrMissingParameters; AuthorId 0 means no author; DateEntered is the time of the first Save.
+// - with Deleted set the row goes with its bytes, its revision lines and every user's bookmark
+//   of it; a folder that still holds items is refused with kErrRecordInUse.
+// - an update of a row that is gone raises kErrRecordNotFound and writes nothing.
+//
+// The stored-file operations (LoadFile, UpdateFile, SaveToDisk, File, FormatSize, FormatDate)
+// are defined in cSourceFile_content.cpp.  LoadFile and UpdateFile fill mFacts and set
+// mContentWriter; Save calls the writer inside its transaction, after the row is written, with
+// the row's id, and the writer replaces that id's SourceFileChunk rows.
+class cSourceFile : public RecordBase {
+public:
+    // Writes the stored bytes of the row id inside Save's transaction.
+    using ContentWriter = std::function<void(SqliteStore& store, int sourceFileId)>;
+
+    // A new item of the database the settings name now.
+    cSourceFile() = default;
+    // A new item of that database file.
+    explicit cSourceFile(const QString& databasePath) : RecordBase(databasePath) {}
+
+    // The facts of the stored file, as cFileInfo (with its cFileVersionInfo).
+    cFileInfo File() const;
+    // The same facts as stored.
+    const SourceFileFacts& Facts() const { return mFacts; }
+
+    // True at an update that brings in a new file (UpdateFile).
+    bool ReplaceFile() const { return mReplaceFile; }
+    void ReplaceFile(bool value) { mReplaceFile = value; }
+    int CategoryId() const { return mCategoryId; }
+    void CategoryId(int value) { mCategoryId = value; }
+    const QDateTime& DateEntered() const { return mDateEntered; }
+    const QString& Description() const { return mDescription; }
+    void Description(const QString& value) { mDescription = value; }
+    const QString& Notes() const { return mNotes; }
+    void Notes(const QString& value) { mNotes = value; }
+    bool IsFolder() const { return mIsFolder; }
+    void IsFolder(bool value) { mIsFolder = value; }
+    int ParentId() const { return mParentId; }
+    void ParentId(int value) { mParentId = value; }
+    // The stored file's extension; the dialogs pick their filters by it.
+    const QString& FileTypeName() const { return mFacts.FileTypeName; }
+    int FileTypeId() const { return mFileTypeId; }
+    void FileTypeId(int value) { mFileTypeId = value; }
+    // Reads the file at strPath, its facts and bytes, into this new record; Save stores them.
+    void LoadFile(const QString& strPath, int lngAuthorId, int lngCategoryId, int lngFileTypeId);
+    // Reads the file at strPath over the stored one; Save stores it.
+    void UpdateFile(const QString& strPath);
+    const QString& AuthorFirstName() const { return mAuthorFirstName; }
+    const QString& AuthorLastName() const { return mAuthorLastName; }
+    int AuthorId() const { return mAuthorId; }
+    void AuthorId(int value) { mAuthorId = value; }
+    cRevisions& Revisions() { return mRevisions; }
+    const cRevisions& Revisions() const { return mRevisions; }
+    int Save();
+    void Save(int& lngId) { lngId = Save(); }
+    // Writes the stored bytes out to strPath, byte for byte.
+    void SaveToDisk(const QString& strPath) const;
+
+    // Size and date texts as the panes show them.
+    static QString FormatSize(qint64 lngSize);
+    static QString FormatDate(const QDateTime& datValue);
+
+    // The row id; 0 for a record not saved yet.
+    int Id() const { return mId; }
+
+private:
+    friend class cLibraryService;
+
+    int mId = 0;
+    bool mReplaceFile = false;
+    int mCategoryId = 0;
+    QDateTime mDateEntered;
+    QString mDescription;
+    QString mNotes;
+    bool mIsFolder = false;
+    int mParentId = 0;
+    int mFileTypeId = 0;
+    QString mAuthorFirstName;
+    QString mAuthorLastName;
+    int mAuthorId = 0;
+    cRevisions mRevisions;
+    SourceFileFacts mFacts;
+    ContentWriter mContentWriter; // set by LoadFile/UpdateFile, run and cleared by Save
+};
+
+} // namespace qs
