@@ -1,0 +1,53 @@
+#pragma once
+
+#include <QComboBox>
+#include <functional>
+
+namespace qs {
+
+// Combo styles.
+enum ComboStyle : int { vbComboDropdown = 0, vbComboSimple = 1, vbComboDropdownList = 2 };
+
+// A combo box over QComboBox with entries numbered from 0 and a 32-bit ItemData beside each.
+//   Errors: an index outside the list raises 381 "Invalid property array index"; ListIndex
+//   outside -1 .. ListCount - 1 raises 380 "Invalid property value"; setting Text of a drop-down
+//   list to a text that is no entry raises 383 "'Text' property is read-only".
+class ComboBox : public QComboBox {
+    Q_OBJECT
+public:
+    explicit ComboBox(const QString& name, QWidget* parent = nullptr,
+                      int style = vbComboDropdownList);
+
+    QString Name() const { return objectName(); }
+    int Style() const { return mStyle; }
+
+    void Clear();
+    // Adds at the end, or before entry `index`; NewIndex is where it went.
+    void AddItem(const QString& text, int index = -1);
+    void RemoveItem(int index);
+    QString List(int index) const;
+    void setList(int index, const QString& text);
+    int ListCount() const { return count(); }
+    int NewIndex() const { return mNewIndex; }
+    // -1 for none.  Setting it (to any value, the same one too) raises Click.
+    int ListIndex() const { return currentIndex(); }
+    void setListIndex(int index);
+    qint32 ItemData(int index) const;
+    void setItemData(int index, qint32 data);
+    // The edit text of a drop-down combo, the chosen entry of a drop-down list.
+    QString Text() const;
+    void setText(const QString& text);
+    void SetFocus() { setFocus(Qt::OtherFocusReason); }
+
+    // Raised when a person picks an entry, and when ListIndex is set.
+    std::function<void()> Click;
+    std::function<void()> Change;
+
+private:
+    int checkedIndex(int index) const;
+    int mStyle;
+    int mNewIndex = -1;
+    bool mSilent = false;
+};
+
+} // namespace qs
