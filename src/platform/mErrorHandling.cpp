@@ -109,8 +109,8 @@ void ErrWriteToLog(long lngNumber, const QString& strSource, const QString& strD
                                           QDateTime::currentDateTime());
         if (gstrLogFile.isEmpty())
             return;
-        OpenLogFile();
         try {
+            OpenLogFile();
             writeRecord(gintLogFileNo, text);
         } catch (...) {
             CloseLogFile();

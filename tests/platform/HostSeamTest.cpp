@@ -1,0 +1,74 @@
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QFileInfo>
+#include <QLibraryInfo>
+#include <QRegularExpression>
+#include <gtest/gtest.h>
+
+namespace {
+
+QString sourceDir() {
+    return qEnvironmentVariable("QS_SOURCE_DIR");
+}
+
+QStringList sourceFiles(const QString& folder) {
+    QStringList files;
+    QDirIterator it(folder, {QStringLiteral("*.h"), QStringLiteral("*.cpp")}, QDir::Files,
+                    QDirIterator::Subdirectories);
+    while (it.hasNext())
+        files.append(it.next());
+    files.sort();
+    return files;
+}
+
+QString readText(const QString& path) {
+    QFile f(path);
+    return f.open(QIODevice::ReadOnly) ? QString::fromUtf8(f.readAll()) : QString();
+}
+
+} // namespace
+
+TEST(HostSeam, OnlyTheQtHostTouchesDialogsAndTheClipboard) {
+    const QString root = sourceDir();
+    ASSERT_FALSE(root.isEmpty()) << "QS_SOURCE_DIR is not set";
+    static const QRegularExpression leak(
+        QStringLiteral("QMessageBox::|QInputDialog::|QFileDialog::|QPrintDialog|"
+                       "QApplication::clipboard|QGuiApplication::clipboard"));
+    QStringList scanned;
+    for (const QString& folder : {QStringLiteral("src"), QStringLiteral("app")}) {
+        for (const QString& file : sourceFiles(QDir(root).filePath(folder))) {
+            const QString relative = QDir(root).relativeFilePath(file);
+            scanned.append(relative);
+            if (relative.startsWith(QStringLiteral("src/platform/QtHost.")))
+                continue;
+            const QRegularExpressionMatch m = leak.match(readText(file));
+            EXPECT_FALSE(m.hasMatch()) << relative.toStdString() << " uses "
+                                       << m.captured().toStdString() << " outside the Qt host";
+        }
+    }
+    EXPECT_TRUE(scanned.contains(QStringLiteral("src/platform/QtHost.cpp")));
+}
+
+TEST(HostSeam, DataServiceIncludesNoWidgetsHeader) {
+    const QString root = sourceDir();
+    ASSERT_FALSE(root.isEmpty()) << "QS_SOURCE_DIR is not set";
+    const QDir widgets(QLibraryInfo::path(QLibraryInfo::HeadersPath) +
+                       QStringLiteral("/QtWidgets"));
+    ASSERT_TRUE(widgets.exists(QStringLiteral("QWidget"))) << widgets.path().toStdString();
+    static const QRegularExpression include(
+        QStringLiteral("^\\s*#\\s*include\\s*[<\"]([^>\"]+)[>\"]"),
+        QRegularExpression::MultilineOption);
+    for (const QString& file :
+         sourceFiles(QDir(root).filePath(QStringLiteral("src/dataservice")))) {
+        auto it = include.globalMatch(readText(file));
+        while (it.hasNext()) {
+            const QString header = it.next().captured(1);
+            const bool isWidgets = header.startsWith(QStringLiteral("QtWidgets")) ||
+                                   (header.startsWith(QLatin1Char('Q')) &&
+                                    !header.contains(QLatin1Char('/')) && widgets.exists(header));
+            EXPECT_FALSE(isWidgets) << QDir(root).relativeFilePath(file).toStdString()
+                                    << " includes the widgets header " << header.toStdString();
+        }
+    }
+}

@@ -1,0 +1,175 @@
+#include "QtHost.h"
+#include "FormBase.h"
+#include "TestHome.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QInputDialog>
+#include <QLockFile>
+#include <QStandardPaths>
+#include <QTextBrowser>
+#include <QTimer>
+#include <functional>
+#include <gtest/gtest.h>
+
+using namespace qs;
+
+namespace {
+
+// Runs `action` on the first modal dialog once it is up.
+void whenModalShows(std::function<void(QWidget*)> action) {
+    auto* timer = new QTimer;
+    timer->setInterval(10);
+    QObject::connect(timer, &QTimer::timeout, [timer, action] {
+        if (QWidget* w = QApplication::activeModalWidget()) {
+            timer->stop();
+            timer->deleteLater();
+            action(w);
+        }
+    });
+    timer->start();
+}
+
+void clickButton(QWidget* dialog, const QString& label) {
+    for (QAbstractButton* b : dialog->findChildren<QAbstractButton*>())
+        if (b->text() == label) {
+            b->click();
+            return;
+        }
+    ADD_FAILURE() << "no button " << label.toStdString();
+}
+
+void writeFile(const QString& path, const QByteArray& bytes) {
+    QFile f(path);
+    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+    f.write(bytes);
+}
+
+} // namespace
+
+TEST(QtHostFilters, DescriptionPatternPairsBecomeNameFilters) {
+    EXPECT_EQ(QtHost::nameFilters(QStringLiteral("All Files (*.*)|*.*|Text Files (*.txt)|*.txt")),
+              (QStringList{QStringLiteral("All Files (*.*) (*.*)"),
+                           QStringLiteral("Text Files (*.txt) (*.txt)")}));
+    EXPECT_EQ(
+        QtHost::nameFilters(QStringLiteral("Pictures|*.bmp;*.jpg:All (*.*)| *.*")),
+        (QStringList{QStringLiteral("Pictures (*.bmp *.jpg)"), QStringLiteral("All (*.*) (*.*)")}));
+    EXPECT_TRUE(QtHost::nameFilters(QString()).isEmpty());
+}
+
+TEST(QtHostHelp, ContextPagesContentsAndSearchComeFromTheHelpFolder) {
+    qs::test::TestHome home;
+    const QString hlp = home.file(QStringLiteral("Quillstone.hlp"));
+    writeFile(home.file(QStringLiteral("1550.html")), "<p>Database</p>");
+    writeFile(home.file(QStringLiteral("index.html")), "<p>Contents</p>");
+    EXPECT_EQ(QtHost::helpPage(hlp, 1, 1550), home.file(QStringLiteral("1550.html")));
+    EXPECT_EQ(QtHost::helpPage(hlp, 8, 1550), home.file(QStringLiteral("1550.html")));
+    EXPECT_EQ(QtHost::helpPage(hlp, 1, 1370), QString());
+    EXPECT_EQ(QtHost::helpPage(hlp, 15, 0), home.file(QStringLiteral("index.html")));
+    EXPECT_EQ(QtHost::helpPage(hlp, 261, 0), home.file(QStringLiteral("index.html")));
+
+    QtHost host;
+    EXPECT_TRUE(host.showHelp(hlp, 1, 1550));
+    QTextBrowser* window = nullptr;
+    for (QWidget* w : QApplication::topLevelWidgets())
+        if (w->objectName() == QStringLiteral("HelpWindow") && w->isVisible())
+            window = qobject_cast<QTextBrowser*>(w);
+    ASSERT_NE(window, nullptr);
+    EXPECT_TRUE(window->toPlainText().contains(QStringLiteral("Database")));
+    EXPECT_FALSE(host.showHelp(hlp, 1, 1370));
+    EXPECT_TRUE(host.showHelp(hlp, 4, 0));
+    EXPECT_FALSE(window->isVisible());
+}
+
+TEST(QtHostDialogs, MessageBoxReturnsTheClickedButtonAndHonoursTheDefault) {
+    QtHost host;
+    int defaultIsNo = 0;
+    whenModalShows([&defaultIsNo](QWidget* box) {
+        for (QAbstractButton* b : box->findChildren<QAbstractButton*>())
+            if (b->text() == QStringLiteral("&No"))
+                defaultIsNo = b->property("default").toBool() ? 1 : -1;
+        clickButton(box, QStringLiteral("&No"));
+    });
+    EXPECT_EQ(host.msgBox(QStringLiteral("Delete?"), vbYesNo | vbQuestion | vbDefaultButton2,
+                          QStringLiteral("Delete")),
+              vbNo);
+    EXPECT_EQ(defaultIsNo, 1);
+
+    whenModalShows([](QWidget* box) { clickButton(box, QStringLiteral("Cancel")); });
+    EXPECT_EQ(host.msgBox(QStringLiteral("Save?"), vbYesNoCancel, QString()), vbCancel);
+
+    whenModalShows([](QWidget* box) { clickButton(box, QStringLiteral("&Retry")); });
+    EXPECT_EQ(host.msgBox(QStringLiteral("Again?"), vbAbortRetryIgnore, QString()), vbRetry);
+}
+
+TEST(QtHostDialogs, InputBoxGivesTheTextAndEmptyOnCancel) {
+    QtHost host;
+    whenModalShows([](QWidget* w) {
+        auto* dialog = qobject_cast<QInputDialog*>(w);
+        ASSERT_NE(dialog, nullptr);
+        dialog->setTextValue(QStringLiteral("Tips"));
+        dialog->accept();
+    });
+    EXPECT_EQ(host.inputBox(QStringLiteral("Name"), QString(), QString()), QStringLiteral("Tips"));
+    whenModalShows([](QWidget* w) { qobject_cast<QDialog*>(w)->reject(); });
+    EXPECT_EQ(host.inputBox(QStringLiteral("Name"), QString(), QStringLiteral("x")), QString());
+}
+
+TEST(QtHostForms, ModalShowReturnsWhenTheFormIsHidden) {
+    QtHost host;
+    FormBase form(QStringLiteral("frmProbe"));
+    bool visibleInLoop = false;
+    QTimer::singleShot(20, &form, [&] {
+        visibleInLoop = form.isVisible();
+        form.Hide();
+    });
+    host.showModal(form);
+    EXPECT_TRUE(visibleInLoop);
+    EXPECT_FALSE(form.isVisible());
+    EXPECT_EQ(form.windowModality(), Qt::NonModal);
+}
+
+TEST(QtHostDesktop, PointerClipboardAndShellCodes) {
+    qs::test::TestHome home;
+    QtHost host;
+    host.setMousePointer(vbHourglass);
+    ASSERT_NE(QApplication::overrideCursor(), nullptr);
+    EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
+    EXPECT_EQ(host.mousePointer(), vbHourglass);
+    host.setMousePointer(vbHourglass);
+    host.setMousePointer(vbDefault);
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+    EXPECT_EQ(host.mousePointer(), vbDefault);
+
+    host.clipboardSetText(QStringLiteral("Sub Main()\r\nEnd Sub"));
+    EXPECT_EQ(host.clipboardGetText(), QStringLiteral("Sub Main()\r\nEnd Sub"));
+
+    EXPECT_EQ(host.shellExecute(QStringLiteral("open"), home.file(QStringLiteral("none.txt")),
+                                QString(), QString(), 1),
+              2);
+    EXPECT_EQ(host.shellExecute(QStringLiteral("open"),
+                                home.file(QStringLiteral("no/folder/none.txt")), QString(),
+                                QString(), 1),
+              3);
+    EXPECT_EQ(host.shellExecute(QStringLiteral("open"), QString(), QString(), QString(), 1), 2);
+}
+
+TEST(QtHostInstance, SecondHostSeesThePreviousInstanceAndAStaleLockIsTakenOver) {
+    qs::test::TestHome home;
+    const QString runtime = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+    {
+        QtHost first;
+        EXPECT_FALSE(first.previousInstance());
+        QtHost second;
+        EXPECT_TRUE(second.previousInstance());
+    }
+    // A lock whose process is gone does not count.
+    const QString lockPath =
+        QDir(runtime).filePath(QCoreApplication::applicationName() + QStringLiteral(".lock"));
+    QFile::remove(lockPath);
+    writeFile(lockPath, "999999999\nQuillstone\n" + QSysInfo::machineHostName().toUtf8() + "\n");
+    QtHost third;
+    EXPECT_FALSE(third.previousInstance());
+}
