@@ -263,12 +263,10 @@ int QtHost::shellExecute(const QString& verb, const QString& file, const QString
         path = QDir(folder).filePath(path);
     }
     const QFileInfo info(path);
-    if (!info.absoluteDir().exists())
+    if (!info.absoluteDir().exists() || (!folder.isEmpty() && !QFileInfo(folder).isDir()))
         return 3;
     if (!info.exists())
         return 2;
-    if (!folder.isEmpty() && !QFileInfo(folder).isDir())
-        return 3;
 
     if (print)
         return QProcess::startDetached(QStringLiteral("lp"), {info.absoluteFilePath()}) ? kDone

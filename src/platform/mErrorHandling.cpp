@@ -78,6 +78,7 @@ QString LogEntryText(long lngNumber, const QString& strSource, const QString& st
                 QString(80, QLatin1Char('=')) + kCrLf + kCrLf;
     const QString hex =
         QString::number(static_cast<quint32>(static_cast<qint32>(lngNumber)), 16).toUpper();
+    // One fixed general date form (month first, 24-hour clock), so logs read alike everywhere.
     text += QStringLiteral("DateTime: ") + when.toString(QStringLiteral("MM/dd/yyyy HH:mm:ss")) +
             QStringLiteral("  (") + kindWord(lngKind) + QStringLiteral(")") + kCrLf;
     text += QStringLiteral("Err:") + QString::number(lngNumber) + QStringLiteral("(") + hex +

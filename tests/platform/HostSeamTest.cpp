@@ -31,7 +31,7 @@ QString readText(const QString& path) {
 
 TEST(HostSeam, OnlyTheQtHostTouchesDialogsAndTheClipboard) {
     const QString root = sourceDir();
-    ASSERT_FALSE(root.isEmpty()) << "QS_SOURCE_DIR is not set";
+    ASSERT_FALSE(root.isEmpty()) << "the source folder is unknown";
     static const QRegularExpression leak(
         QStringLiteral("QMessageBox::|QInputDialog::|QFileDialog::|QPrintDialog|"
                        "QApplication::clipboard|QGuiApplication::clipboard"));
@@ -52,7 +52,7 @@ TEST(HostSeam, OnlyTheQtHostTouchesDialogsAndTheClipboard) {
 
 TEST(HostSeam, DataServiceIncludesNoWidgetsHeader) {
     const QString root = sourceDir();
-    ASSERT_FALSE(root.isEmpty()) << "QS_SOURCE_DIR is not set";
+    ASSERT_FALSE(root.isEmpty()) << "the source folder is unknown";
     const QDir widgets(QLibraryInfo::path(QLibraryInfo::HeadersPath) +
                        QStringLiteral("/QtWidgets"));
     ASSERT_TRUE(widgets.exists(QStringLiteral("QWidget"))) << widgets.path().toStdString();

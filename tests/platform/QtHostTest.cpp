@@ -154,6 +154,21 @@ TEST(QtHostDesktop, PointerClipboardAndShellCodes) {
                                 QString(), 1),
               3);
     EXPECT_EQ(host.shellExecute(QStringLiteral("open"), QString(), QString(), QString(), 1), 2);
+    writeFile(home.file(QStringLiteral("a.txt")), "x");
+    EXPECT_EQ(host.shellExecute(QStringLiteral("open"), QStringLiteral("a.txt"), QString(),
+                                home.file(QStringLiteral("missing")), 1),
+              3);
+}
+
+TEST(QtHostEnd, EndLeavesTheProcessAtOnceWithCodeZero) {
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    EXPECT_EXIT(
+        {
+            QtHost host;
+            host.endProcess();
+            std::abort();
+        },
+        ::testing::ExitedWithCode(0), "");
 }
 
 TEST(QtHostInstance, SecondHostSeesThePreviousInstanceAndAStaleLockIsTakenOver) {
