@@ -77,7 +77,7 @@ private:
     // nobody is logged in.
     QString actingUserId() const;
 
-    std::unique_ptr<cUser> mobjUser;
+    std::shared_ptr<cUser> mobjUser;
     std::unique_ptr<cSecurityService> mobjSecurity;
     std::unique_ptr<cAuthor> mobjAuthor;
     short mintMode = ModeView;

@@ -207,6 +207,7 @@ public:
     QString mstrFirstCategoryClick; // "Yes" until the category tree's first click
     QString mstrFirstMainClick;     // "Yes" until the item tree's first click
     bool mblnFilling = false;
+    QString mstrDatabaseFolder; // folder of the database last chosen or made here
 
 protected:
     void Form_Load() override;
@@ -215,6 +216,7 @@ protected:
 
 private:
     void buildLayout();
+    void buildSourceFileTabs(QWidget* owner);
     void buildMenus();
     void buildToolBar();
     void connectMenus();

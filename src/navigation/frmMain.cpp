@@ -1,0 +1,239 @@
+// The main window's load, start-up and shutdown, and the commands that leave it.
+
+#include "frmMain.h"
+
+#include "ComboBox.h"
+#include "Globals.h"
+#include "Host.h"
+#include "ImageList.h"
+#include "SSTab.h"
+#include "Toolbar.h"
+#include "TreeView.h"
+#include "cLibraryService.h"
+#include "frmLogin.h"
+#include "frmUser.h"
+#include "mDriveInfo.h"
+#include "mErrorHandling.h"
+#include "mPathHelpers.h"
+#include "mRegConstants.h"
+#include "mRegistry.h"
+#include "mToolBar.h"
+#include "mTreeview.h"
+#include "quillstone_private.h"
+
+#include <QAction>
+#include <QHash>
+#include <QLineEdit>
+#include <QPushButton>
+
+namespace qs {
+
+namespace {
+
+// The tool bar buttons that change the library, hidden from anyone but an administrator.
+const char* const kAdminButtons[] = {"Add Category",   "Add Folder", "Add SourceCode",
+                                     "Add SourceFile", "DeleteNode", "Seperator2",
+                                     "ReName Item"};
+
+// Clipboard formats registered by name in this process, numbered as the platform numbers its
+// private formats.
+int RegisterClipboardFormat(const QString& name) {
+    static QHash<QString, int> formats;
+    auto found = formats.constFind(name);
+    if (found != formats.constEnd())
+        return *found;
+    const int number = 0xC000 + formats.size();
+    formats.insert(name, number);
+    return number;
+}
+
+} // namespace
+
+frmMain::frmMain() : FormBase(QStringLiteral("frmMain")) {
+    setCaption(QStringLiteral("Ovrin Quillstone"));
+    buildLayout();
+    buildMenus();
+    buildToolBar();
+    connectMenus();
+}
+
+frmMain::~frmMain() = default;
+
+void frmMain::Form_Load() {
+    try {
+        host().setMousePointer(vbHourglass);
+        CenterOnScreen();
+        mintDragFormat = RegisterClipboardFormat(QStringLiteral("Tarnwick"));
+        tvwCategories->setImageList(&ImageList::instance());
+        gblnCodeView = true;
+        mstrFirstCategoryClick = QStringLiteral("Yes");
+        mstrFirstMainClick = QStringLiteral("Yes");
+        lvwRevHistSetup(lvwRevisionHistory);
+        StartUp();
+        SettingCategory(tvwCategories);
+        InitControls();
+        CenterOnScreen();
+        if (gstrAccessType != QLatin1String("Admin"))
+            ApplyAccessLevel();
+        if (!tvwCategories->SelectedItem().isNothing()) {
+            const QString text = tvwCategories->SelectedItem().Text();
+            const bool file =
+                text == QLatin1String("Article") || text == QLatin1String("Component");
+            SSTabSourceFile->setVisible(file);
+            SSTabAboutCode->setVisible(!file);
+        }
+        host().setMousePointer(vbDefault);
+    } catch (...) {
+        HandleFailure("frmMain:Form_Load;");
+    }
+}
+
+void frmMain::ApplyAccessLevel() {
+    mnuAdmin->setVisible(false);
+    mnuBackup->setVisible(false);
+    mnuCompact->setVisible(false);
+    mnuNewDatabase->setVisible(false);
+    for (const char* key : kAdminButtons)
+        tbToolBar->Buttons(QString::fromLatin1(key)).setVisible(false);
+}
+
+void frmMain::StartUp() {
+    try {
+        gobjLibrary = std::make_unique<cLibraryService>();
+        mblnViewBookMarks =
+            GetRegSetting(QString::fromLatin1(REG_KEY_TOOLBARSETTINGS),
+                          QString::fromLatin1(REG_VAL_VIEWBOOKMARKS), REG_DEF_VIEWBOOKMARKS)
+                .toBool();
+        mstrLastNodeCategory = GetRegSetting(QString::fromLatin1(REG_KEY_TVIEWSETTINGS),
+                                             QString::fromLatin1(REG_VAL_LASTNODECATEGORY),
+                                             QString::fromLatin1(REG_DEF_LASTNODECATEGORY))
+                                   .toString();
+        mstrLastCodeType = GetRegSetting(QString::fromLatin1(REG_KEY_TVIEWSETTINGS),
+                                         QString::fromLatin1(REG_VAL_TVIEW_LASTCODETYPE),
+                                         QString::fromLatin1(REG_DEF_TVIEW_LASTCODETYPE))
+                               .toString();
+        mstrLastCodeTypeMain = mstrLastCodeType;
+        cboTestedOrUntested->AddItem(QStringLiteral("Tested"));
+        cboTestedOrUntested->AddItem(QStringLiteral("Untested"));
+        FillComboBox(QStringLiteral("FileType"), cboCodeType, false, false, true, QString(), true,
+                     true);
+        FillComboBox(QStringLiteral("CodeType"), cboCodeType, false, false, true, QString(), true,
+                     false);
+        FillComboBox(QStringLiteral("Category"), cboCategory, false, false, true, QString(), true,
+                     true);
+        FillTreeViewBookmarks(gstrUserId);
+        FillTreeViewCategory();
+    } catch (...) {
+        HandleFailure("frmMain:StartUp;");
+    }
+}
+
+void frmMain::InitControls() {
+    try {
+        tbrMakeFlat(*tbToolBar);
+        tvwTrackSelected(*tvwMain, true);
+        tvwSetIndentation(*tvwMain, 50);
+        tvwSetIndentation(*tvwCategories, 50);
+        tvwSetIndentation(*tvwBookMarks, 50);
+        tvwSetIndentation(*tvwSearchResults, 50);
+    } catch (...) {
+        HandleFailure("frmMain:InitControls;");
+    }
+}
+
+void frmMain::Form_Activate() {
+    try {
+        if (SSTabNavigate->Tab() == 2 && txtSearchString->isVisible())
+            txtSearchString->setFocus();
+    } catch (...) {
+        HandleFailure("frmMain:Form_Activate;");
+    }
+}
+
+void frmMain::Form_Unload(int& cancel) {
+    (void)cancel;
+    try {
+        gobjLibrary.reset();
+    } catch (...) {
+        HandleFailure("frmMain:Form_Unload;");
+    }
+}
+
+void frmMain::mnuLoginReturn_Click() {
+    try {
+        UnloadAllForms(QString());
+        host().doEvents();
+        Forms::get<frmLogin>().Show(vbModeless);
+    } catch (...) {
+        HandleFailure("frmMain:mnuLoginReturn_Click;");
+    }
+}
+
+void frmMain::mnuExit_Click() {
+    try {
+        host().endProcess();
+    } catch (...) {
+        HandleFailure("frmMain:mnuExit_Click;");
+    }
+}
+
+void frmMain::mnuUser_Click() {
+    try {
+        host().setMousePointer(vbHourglass);
+        Hide();
+        Forms::get<frmUser>().Show(vbModal);
+        Show(vbModeless);
+        host().setMousePointer(vbDefault);
+    } catch (...) {
+        HandleFailure("frmMain:mnuUser_Click;");
+    }
+}
+
+void frmMain::mnuOpenDatabase_Click() {
+    try {
+        host().setMousePointer(vbHourglass);
+        SelectDataBase();
+        SSTabNavigate->setTab(0);
+        host().setMousePointer(vbDefault);
+    } catch (...) {
+        HandleFailure("frmMain:mnuOpenDatabase_Click;");
+    }
+}
+
+void frmMain::SelectDataBase() {
+    try {
+        host().setMousePointer(vbHourglass);
+        Hide();
+        const QString key = QString::fromLatin1(REG_KEY_DATABASE);
+        gstrPriorDbPath = GetRegSetting(key, QString::fromLatin1(REG_VAL_DATABASE_PATH),
+                                        QString::fromLatin1(REG_DEF_DATABASE_PATH))
+                              .toString();
+        gstrPriorDbFile = GetRegSetting(key, QString::fromLatin1(REG_VAL_DATABASE_FILENAME),
+                                        QString::fromLatin1(REG_DEF_DATABASE_FILENAME))
+                              .toString();
+        FileDialogRequest request;
+        request.title = QStringLiteral("Select a Tarnwick Database.");
+        request.filter = QStringLiteral("MsAccess Files (*.mdb)|*.mdb");
+        request.mustExist = true;
+        const QString chosen = host().fileDialog(request);
+        if (chosen.isEmpty()) {
+            Show(vbModeless);
+            host().setMousePointer(vbDefault);
+            return;
+        }
+        mstrDatabaseFolder = ExtractFilePath(chosen, false);
+        SaveRegSetting(key, QString::fromLatin1(REG_VAL_DATABASE_PATH), mstrDatabaseFolder);
+        SaveRegSetting(key, QString::fromLatin1(REG_VAL_DATABASE_FILENAME), StripFileName(chosen));
+        gintLoginAttempts = 0;
+        gblnSwitchingDatabase = true;
+        frmLogin& login = Forms::get<frmLogin>();
+        login.cmdExit->setText(QStringLiteral("Cancel"));
+        login.Show(vbModeless);
+        login.setCaption(QStringLiteral("Login To Database You Selected"));
+        host().setMousePointer(vbDefault);
+    } catch (...) {
+        HandleFailure("frmMain:SelectDataBase;");
+    }
+}
+
+} // namespace qs

@@ -1,0 +1,149 @@
+// The menu bar of the main window and the wiring of its entries to their commands.
+
+#include "frmMain.h"
+
+#include <QAction>
+#include <QMenu>
+#include <QMenuBar>
+
+namespace qs {
+
+namespace {
+
+// A sub-menu: the QMenu and its action both carry the design name.
+QAction* subMenu(QWidget* owner, QMenuBar* bar, QMenu* parent, const char* name,
+                 const QString& caption) {
+    auto* menu = new QMenu(caption, owner);
+    menu->setObjectName(QString::fromLatin1(name));
+    QAction* action = menu->menuAction();
+    action->setObjectName(QString::fromLatin1(name));
+    if (bar)
+        bar->addMenu(menu);
+    else
+        parent->addMenu(menu);
+    return action;
+}
+
+QAction* entry(QAction* menu, const char* name, const QString& caption) {
+    QAction* action = menu->menu()->addAction(caption);
+    action->setObjectName(QString::fromLatin1(name));
+    return action;
+}
+
+QAction* separator(QAction* menu, const char* name) {
+    QAction* action = menu->menu()->addSeparator();
+    action->setObjectName(QString::fromLatin1(name));
+    return action;
+}
+
+} // namespace
+
+void frmMain::buildMenus() {
+    QMenuBar* bar = menuBar;
+
+    mnuFile = subMenu(this, bar, nullptr, "mnuFile", QStringLiteral("&File"));
+    mnuImport = subMenu(this, nullptr, mnuFile->menu(), "mnuImport", QStringLiteral("Import"));
+    mnuImportQSDB = entry(mnuImport, "mnuImportQSDB", QStringLiteral("From QS Database"));
+    mnuExport = subMenu(this, nullptr, mnuFile->menu(), "mnuExport", QStringLiteral("Export"));
+    mnuRTF = entry(mnuExport, "mnuRTF", QStringLiteral("To RTF"));
+    mnuPDF = entry(mnuExport, "mnuPDF", QStringLiteral("To PDF"));
+    mnuXml = entry(mnuExport, "mnuXml", QStringLiteral("To XML"));
+    mnuHtml = entry(mnuExport, "mnuHtml", QStringLiteral("To HTML"));
+    mnuTextFile = entry(mnuExport, "mnuTextFile", QStringLiteral("To Text File"));
+    Seperator1 = separator(mnuFile, "Seperator1");
+    mnuLoginReturn = entry(mnuFile, "mnuLoginReturn", QStringLiteral("Return to Login Screen"));
+    Seperator2 = separator(mnuFile, "Seperator2");
+    mnuExit = entry(mnuFile, "mnuExit", QStringLiteral("Exit"));
+
+    mnuEdit = subMenu(this, bar, nullptr, "mnuEdit", QStringLiteral("&Edit"));
+    mnuFind = entry(mnuEdit, "mnuFind", QStringLiteral("Find"));
+    mnuCopy = entry(mnuEdit, "mnuCopy", QStringLiteral("Copy"));
+    mnuAdvancedCopy = entry(mnuEdit, "mnuAdvancedCopy", QStringLiteral("Advanced Copy"));
+    mnuSelectAll = entry(mnuEdit, "mnuSelectAll", QStringLiteral("Select All Code"));
+    // The code pane's pop-up hides this pair while it shows the Edit menu.
+    seperator3 = separator(mnuEdit, "seperator3");
+    mnuBookMark = entry(mnuEdit, "mnuBookMark", QStringLiteral("BookMark"));
+
+    mnuView = subMenu(this, bar, nullptr, "mnuView", QStringLiteral("&View"));
+    mnuApiViewer = entry(mnuView, "mnuApiViewer", QStringLiteral("API Viewer"));
+    mnuBookMarkS = entry(mnuView, "mnuBookMarkS", QStringLiteral("Bookmarks"));
+
+    mnuBookMarkSearch = subMenu(this, bar, nullptr, "mnuBookMarkSearch", QStringLiteral("&Search"));
+    mnuBookMarkSch = entry(mnuBookMarkSearch, "mnuBookMarkSch", QStringLiteral("BookMark"));
+
+    mnuAdmin = subMenu(this, bar, nullptr, "mnuAdmin", QStringLiteral("&Admin"));
+    mnuUpdate =
+        subMenu(this, nullptr, mnuAdmin->menu(), "mnuUpdate", QStringLiteral("Maintenance"));
+    mnuAuthor = entry(mnuUpdate, "mnuAuthor", QStringLiteral("Authors"));
+    mnuUser = entry(mnuUpdate, "mnuUser", QStringLiteral("Users"));
+    mnuModify = subMenu(this, nullptr, mnuAdmin->menu(), "mnuModify", QStringLiteral("Modify"));
+    mnuAddCategory = entry(mnuModify, "mnuAddCategory", QStringLiteral("Add Category"));
+    mnuAddFolder = entry(mnuModify, "mnuAddFolder", QStringLiteral("Add Folder"));
+    mnuAddSourceCode = entry(mnuModify, "mnuAddSourceCode", QStringLiteral("Add SourceCode"));
+    mnuAddSourceFile = entry(mnuModify, "mnuAddSourceFile", QStringLiteral("Add SourceFile"));
+    mnuBookMarkA = entry(mnuModify, "mnuBookMarkA", QStringLiteral("BookMark"));
+    mnuDelete = entry(mnuModify, "mnuDelete", QStringLiteral("Delete"));
+    mnuEditSource = entry(mnuModify, "mnuEditSource", QStringLiteral("Edit"));
+    mnuRename = entry(mnuModify, "mnuRename", QStringLiteral("Rename"));
+
+    mnuDatabase = subMenu(this, bar, nullptr, "mnuDatabase", QStringLiteral("&Database"));
+    mnuOpenDatabase = entry(mnuDatabase, "mnuOpenDatabase", QStringLiteral("Open"));
+    mnuNewDatabase = entry(mnuDatabase, "mnuNewDatabase", QStringLiteral("Create"));
+    mnuBackup = entry(mnuDatabase, "mnuBackup", QStringLiteral("Backup"));
+    mnuCompact = entry(mnuDatabase, "mnuCompact", QStringLiteral("Compact"));
+
+    mnuHelp = subMenu(this, bar, nullptr, "mnuHelp", QStringLiteral("&Help"));
+    mnuHelpContents = entry(mnuHelp, "mnuHelpContents", QStringLiteral("Contents..."));
+    mnuHelpSearch = entry(mnuHelp, "mnuHelpSearch", QStringLiteral("Search..."));
+    mnuHelpOnHelp = entry(mnuHelp, "mnuHelpOnHelp", QStringLiteral("How to Use Help"));
+    separator4 = separator(mnuHelp, "separator4");
+    mnuAboutApp = entry(mnuHelp, "mnuAboutApp", QStringLiteral("About App"));
+
+    // The bookmark tree's pop-up: a menu of the bar that never shows there.
+    mnuBk = subMenu(this, bar, nullptr, "mnuBk", QStringLiteral("BkMenu"));
+    mnuBk->setVisible(false);
+    mnuDelBookmark = entry(mnuBk, "mnuDelBookmark", QStringLiteral("Delete BookMark"));
+}
+
+void frmMain::connectMenus() {
+    const auto wire = [this](QAction* action, void (frmMain::*handler)()) {
+        connect(action, &QAction::triggered, this, [this, handler] { (this->*handler)(); });
+    };
+    // mnuImportQSDB has no command behind it.
+    wire(mnuRTF, &frmMain::mnuRTF_Click);
+    wire(mnuPDF, &frmMain::mnuPDF_Click);
+    wire(mnuXml, &frmMain::mnuXml_Click);
+    wire(mnuHtml, &frmMain::mnuHtml_Click);
+    wire(mnuTextFile, &frmMain::mnuTextFile_Click);
+    wire(mnuLoginReturn, &frmMain::mnuLoginReturn_Click);
+    wire(mnuExit, &frmMain::mnuExit_Click);
+    wire(mnuFind, &frmMain::mnuFind_Click);
+    wire(mnuCopy, &frmMain::mnuCopy_Click);
+    wire(mnuAdvancedCopy, &frmMain::mnuAdvancedCopy_Click);
+    wire(mnuSelectAll, &frmMain::mnuSelectAll_Click);
+    wire(mnuBookMark, &frmMain::mnuBookMark_Click);
+    wire(mnuApiViewer, &frmMain::mnuApiViewer_Click);
+    wire(mnuBookMarkS, &frmMain::mnuBookmarks_Click);
+    wire(mnuBookMarkSch, &frmMain::mnuBookMarkSch_Click);
+    wire(mnuAuthor, &frmMain::mnuAuthor_Click);
+    wire(mnuUser, &frmMain::mnuUser_Click);
+    wire(mnuAddCategory, &frmMain::mnuAddCategory_Click);
+    wire(mnuAddFolder, &frmMain::mnuAddFolder_Click);
+    wire(mnuAddSourceCode, &frmMain::mnuAddSourceCode_Click);
+    wire(mnuAddSourceFile, &frmMain::mnuAddSourceFile_Click);
+    wire(mnuBookMarkA, &frmMain::mnuBookMarkA_Click);
+    wire(mnuDelete, &frmMain::mnuDelete_Click);
+    wire(mnuEditSource, &frmMain::mnuEditSource_Click);
+    wire(mnuRename, &frmMain::mnuRename_Click);
+    wire(mnuOpenDatabase, &frmMain::mnuOpenDatabase_Click);
+    wire(mnuNewDatabase, &frmMain::mnuNewDatabase_Click);
+    wire(mnuBackup, &frmMain::mnuBackup_Click);
+    wire(mnuCompact, &frmMain::mnuCompact_Click);
+    wire(mnuHelpContents, &frmMain::mnuHelpContents_Click);
+    wire(mnuHelpSearch, &frmMain::mnuHelpSearch_Click);
+    wire(mnuHelpOnHelp, &frmMain::mnuHelpOnHelp_Click);
+    wire(mnuAboutApp, &frmMain::mnuAboutApp_Click);
+    wire(mnuDelBookmark, &frmMain::mnuDelBookmark_Click);
+}
+
+} // namespace qs

@@ -1,0 +1,61 @@
+// The tool bar of the main window: its buttons by key, with tag, tool tip and image.
+
+#include "frmMain.h"
+
+#include "ImageList.h"
+#include "Toolbar.h"
+
+namespace qs {
+
+namespace {
+
+struct ToolButton {
+    const char* key;
+    const char* tag;
+    const char* toolTip;
+    const char* image;
+};
+
+// In order.  "ReName Item" carries another Tag than its Key, and "Back" the tool tip of the
+// other direction; both are as the design has them.
+const ToolButton kButtons[] = {
+    {"Open DataBase", "Open DataBase", "Open DataBase", "OpenDataBase"},
+    {"Add Category", "Add Category", "Add Category", "Category"},
+    {"Add Folder", "Add Folder", "Add Folder", "Folder"},
+    {"Add SourceCode", "Add SourceCode", "Add SourceCode", "SourceCode"},
+    {"Add SourceFile", "Add SourceFile", "Add SourceFile", "SourceFile"},
+    {"Seperator2", "Seperator2", nullptr, nullptr},
+    {"DeleteNode", "DeleteNode", "Delete Selected Node", "Delete"},
+    {"BookMark", "BookMark", "BookMark Item", "BookMark"},
+    {"Edit", "Edit", "Edit Source", "Edit"},
+    {"ReName Item", "ReName", "Rename Node", "ReName2"},
+    {"Find", "Find", "Find Item", "Find"},
+    {"BookMarks", "BookMarks", "View BookMarks", "BookMarks"},
+    {"Back", "Back", "Next Item", "Back"},
+    {"Forward", "Forward", "Forward Item", "Forward"},
+    {"Copy", "Copy", "Copy", "Copy"},
+    {"AdvCopy", "AdvCopy", "Advanced Copy", "AdvCopy"},
+    {"Print", "Print", "Print", "Print"},
+};
+
+} // namespace
+
+void frmMain::buildToolBar() {
+    tbToolBar->setImageList(&ImageList::instance());
+    for (const ToolButton& b : kButtons) {
+        const QString key = QString::fromLatin1(b.key);
+        if (!b.image) {
+            Button& separator = tbToolBar->Buttons.Add(key, QString(), tbrSeparator);
+            separator.setTag(QString::fromLatin1(b.tag));
+            continue;
+        }
+        Button& button =
+            tbToolBar->Buttons.Add(key, QString(), tbrDefault, QString::fromLatin1(b.image));
+        button.setTag(QString::fromLatin1(b.tag));
+        button.setToolTipText(QString::fromLatin1(b.toolTip));
+    }
+    // Editing is off until an item is chosen in the tree.
+    tbToolBar->Buttons(QStringLiteral("Edit")).setEnabled(false);
+}
+
+} // namespace qs
