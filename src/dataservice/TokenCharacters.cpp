@@ -1,0 +1,96 @@
+#include "TokenCharacters.h"
+
+#include "ServiceErrors.h"
+
+#include <QRegularExpression>
+#include <QSqlDatabase>
+#include <QSqlError>
+#include <QSqlQuery>
+#include <map>
+#include <memory>
+
+namespace qs {
+
+namespace {
+
+// Kept for the life of the process on purpose: the probe connections must outlive every
+// search, and tearing them down after Qt's own connection list is gone is unsafe.
+std::map<QString, std::unique_ptr<TokenCharacters>>& instances() {
+    static auto* map = new std::map<QString, std::unique_ptr<TokenCharacters>>();
+    return *map;
+}
+
+QString quotedSql(const QString& text) {
+    QString quoted = text;
+    quoted.replace(QLatin1Char('\''), QLatin1String("''"));
+    return QLatin1Char('\'') + quoted + QLatin1Char('\'');
+}
+
+} // namespace
+
+TokenCharacters& TokenCharacters::forTokenizer(const QString& tokenize, const QString& source) {
+    auto& map = instances();
+    auto found = map.find(tokenize);
+    if (found != map.end())
+        return *found->second;
+    std::unique_ptr<TokenCharacters> made(new TokenCharacters(
+        tokenize, QStringLiteral("qs_tokens_%1").arg(static_cast<qulonglong>(map.size() + 1))));
+    made->open(source);
+    return *map.emplace(tokenize, std::move(made)).first->second;
+}
+
+QString TokenCharacters::tokenizerOf(const QString& createStatement) {
+    static const QRegularExpression pattern(QStringLiteral("tokenize\\s*=\\s*'((?:[^']|'')*)'"),
+                                            QRegularExpression::CaseInsensitiveOption);
+    const QRegularExpressionMatch match = pattern.match(createStatement);
+    if (!match.hasMatch())
+        return QStringLiteral("unicode61");
+    QString arguments = match.captured(1);
+    arguments.replace(QLatin1String("''"), QLatin1String("'"));
+    return arguments;
+}
+
+TokenCharacters::TokenCharacters(const QString& tokenize, const QString& connectionName)
+    : mTokenize(tokenize), mConnectionName(connectionName) {}
+
+void TokenCharacters::open(const QString& source) {
+    QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), mConnectionName);
+    db.setDatabaseName(QStringLiteral(":memory:"));
+    QSqlQuery create(db);
+    if (!db.open() ||
+        !create.exec(QStringLiteral("CREATE VIRTUAL TABLE Probe USING fts5 (x, tokenize = %1)")
+                         .arg(quotedSql(mTokenize))))
+        RaiseServiceError(kErrStorage, source,
+                          db.lastError().text() + QLatin1Char(' ') + create.lastError().text());
+    mSource = source;
+}
+
+bool TokenCharacters::isTokenChar(char32_t c) {
+    if (c < 0x80)
+        return (c >= '0' && c <= '9') || (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
+    const auto known = mKnown.constFind(c);
+    if (known != mKnown.constEnd())
+        return *known;
+    const bool token = probe(c);
+    mKnown.insert(c, token);
+    return token;
+}
+
+// "x", c, "x" is one word when c is a word character and two words "x" otherwise.
+bool TokenCharacters::probe(char32_t c) {
+    QSqlDatabase db = QSqlDatabase::database(mConnectionName, false);
+    QSqlQuery query(db);
+    query.setForwardOnly(true);
+    bool ok = query.exec(QStringLiteral("DELETE FROM Probe"));
+    ok = ok && query.prepare(QStringLiteral("INSERT INTO Probe (x) VALUES (?)"));
+    if (ok) {
+        query.addBindValue(QLatin1Char('x') + QString::fromUcs4(&c, 1) + QLatin1Char('x'));
+        ok = query.exec();
+    }
+    ok = ok && query.exec(QStringLiteral("SELECT count(*) FROM Probe WHERE Probe MATCH 'x'"));
+    if (!ok || !query.next())
+        RaiseServiceError(kErrStorage, mSource, query.lastError().text());
+    return query.value(0).toInt() == 0;
+}
+
+} // namespace qs

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QHash>
+#include <QString>
+
+namespace qs {
+
+// Which characters the search index's tokenizer keeps inside a word.  ASCII letters and digits
+// are word characters and every other ASCII character separates words; for any other character
+// the answer is learnt from SQLite itself, through a small in-memory table made with the same
+// tokenizer arguments, and remembered for the life of the process.  So the scan of the search
+// and the index never disagree on where a word starts, whatever the Unicode tables of Qt and
+// SQLite say.
+class TokenCharacters {
+public:
+    // The one instance for these tokenizer arguments (as in the index's CREATE statement,
+    // e.g. "unicode61 remove_diacritics 0").  Raises kErrStorage with source when SQLite
+    // cannot make the probe table.
+    static TokenCharacters& forTokenizer(const QString& tokenize, const QString& source);
+
+    // The arguments of the tokenizer of the FTS5 table whose CREATE statement this is; the
+    // FTS5 default "unicode61" when it names none.
+    static QString tokenizerOf(const QString& createStatement);
+
+    bool isTokenChar(char32_t c);
+
+    TokenCharacters(const TokenCharacters&) = delete;
+    TokenCharacters& operator=(const TokenCharacters&) = delete;
+
+private:
+    TokenCharacters(const QString& tokenize, const QString& connectionName);
+    void open(const QString& source);
+    bool probe(char32_t c);
+
+    QString mTokenize;
+    QString mConnectionName;
+    QString mSource;
+    QHash<char32_t, bool> mKnown;
+};
+
+} // namespace qs
