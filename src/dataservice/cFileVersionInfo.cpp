@@ -3,8 +3,9 @@
 #include "PeVersionParser.h"
 #include "QsError.h"
 
-#include <QDataStream>
-#include <QIODevice>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 
 namespace qs {
 
@@ -160,37 +161,32 @@ QString cFileVersionInfo::EntryValue(int index) const {
     return mValues[index];
 }
 
-QByteArray cFileVersionInfo::ToBytes() const {
+QString cFileVersionInfo::ToJson() const {
     if (!mHas)
         return {};
-    QByteArray bytes;
-    QDataStream out(&bytes, QIODevice::WriteOnly);
-    out.setVersion(QDataStream::Qt_6_0);
-    out << quint32(1) << quint32(kEntryCount);
+    QJsonArray values;
     for (const QString& v : mValues)
-        out << v;
-    return bytes;
+        values.append(v);
+    QJsonObject root;
+    root.insert(QStringLiteral("format"), 1);
+    root.insert(QStringLiteral("values"), values);
+    return QString::fromUtf8(QJsonDocument(root).toJson(QJsonDocument::Compact));
 }
 
-cFileVersionInfo cFileVersionInfo::FromBytes(const QByteArray& bytes) {
+cFileVersionInfo cFileVersionInfo::FromJson(const QString& json) {
     cFileVersionInfo info;
-    if (bytes.isEmpty())
+    if (json.isEmpty())
         return info;
-    QDataStream in(bytes);
-    in.setVersion(QDataStream::Qt_6_0);
-    quint32 format = 0;
-    quint32 count = 0;
-    in >> format >> count;
-    if (format != 1 || count != kEntryCount)
+    const QJsonDocument doc = QJsonDocument::fromJson(json.toUtf8());
+    const QJsonArray values = doc.object().value(QStringLiteral("values")).toArray();
+    if (doc.object().value(QStringLiteral("format")).toInt() != 1 || values.size() != kEntryCount)
         return info;
-    QString values[kEntryCount];
-    for (QString& v : values)
-        in >> v;
-    if (in.status() != QDataStream::Ok)
-        return info;
+    for (int i = 0; i < kEntryCount; ++i) {
+        if (!values[i].isString())
+            return {};
+        info.mValues[i] = values[i].toString();
+    }
     info.mHas = true;
-    for (int i = 0; i < kEntryCount; ++i)
-        info.mValues[i] = values[i];
     return info;
 }
 

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QByteArray>
 #include <QString>
 
 namespace qs {
@@ -47,10 +46,10 @@ public:
     QString EntryName(int index) const;
     QString EntryValue(int index) const;
 
-    // Storage form of the block, read back by FromBytes; an empty or damaged array gives an
-    // object without version information.
-    QByteArray ToBytes() const;
-    static cFileVersionInfo FromBytes(const QByteArray& bytes);
+    // Storage form of the block, {"format":1,"values":[15 strings]}, read back by FromJson; an
+    // object without version information gives "", and "" or a damaged text gives such an object.
+    QString ToJson() const;
+    static cFileVersionInfo FromJson(const QString& json);
 
     // The name Windows gives a language id, "English (United States)"; the id in hex when unknown.
     static QString LanguageName(quint16 langId);

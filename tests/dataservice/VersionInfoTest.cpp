@@ -154,12 +154,21 @@ TEST(VersionInfo, ReadFromAFileOnDisc) {
 
 TEST(VersionInfo, StorageFormGivesTheSameBlockBack) {
     const cFileVersionInfo info = infoOf(PeImageBuilder::WithStrings(kStrings));
-    const cFileVersionInfo back = cFileVersionInfo::FromBytes(info.ToBytes());
+    const cFileVersionInfo back = cFileVersionInfo::FromJson(info.ToJson());
     EXPECT_TRUE(back == info);
     EXPECT_EQ(back.EntryValue(13), info.EntryValue(13));
-    EXPECT_FALSE(cFileVersionInfo::FromBytes(QByteArray()).HasVersionInfo());
-    EXPECT_FALSE(cFileVersionInfo::FromBytes("garbage").HasVersionInfo());
-    EXPECT_FALSE(cFileVersionInfo::FromBytes(info.ToBytes().left(20)).HasVersionInfo());
+    EXPECT_EQ(cFileVersionInfo().ToJson(), "");
+    EXPECT_FALSE(cFileVersionInfo::FromJson(QString()).HasVersionInfo());
+    EXPECT_FALSE(cFileVersionInfo::FromJson("garbage").HasVersionInfo());
+    EXPECT_FALSE(cFileVersionInfo::FromJson(info.ToJson().left(20)).HasVersionInfo());
+    // A block whose values are all empty still has version information.
+    const cFileVersionInfo empty = infoOf(PeImageBuilder::Build([] {
+        PeImageSpec spec;
+        spec.withFixed = false;
+        return spec;
+    }()));
+    ASSERT_TRUE(empty.HasVersionInfo());
+    EXPECT_TRUE(cFileVersionInfo::FromJson(empty.ToJson()).HasVersionInfo());
 }
 
 // Damaged and hostile images: the parser returns, reads nothing outside the buffer (the

@@ -1,0 +1,175 @@
+#include "PeImageBuilder.h"
+#include "QsError.h"
+#include "TestHome.h"
+#include "cFileInfo.h"
+
+#include <QFile>
+#include <QMimeDatabase>
+#include <QTimeZone>
+
+#include <gtest/gtest.h>
+
+using namespace qs;
+
+namespace {
+
+QString writeFile(const qs::test::TestHome& home, const QString& name, const QByteArray& bytes) {
+    QFile f(home.file(name));
+    if (!f.open(QIODevice::WriteOnly))
+        ADD_FAILURE() << "cannot write " << name.toStdString();
+    f.write(bytes);
+    return f.fileName();
+}
+
+} // namespace
+
+TEST(DosName, NamesThatFitStayAsTheyAreInCapitals) {
+    EXPECT_EQ(cFileInfo::MakeDosName("readme.txt"), "README.TXT");
+    EXPECT_EQ(cFileInfo::MakeDosName("Makefile"), "MAKEFILE");
+    EXPECT_EQ(cFileInfo::MakeDosName("A1$~.C"), "A1$~.C");
+}
+
+TEST(DosName, LongOrLossyNamesKeepSixCharactersAndTilde) {
+    EXPECT_EQ(cFileInfo::MakeDosName("My Document.docx"), "MYDOCU~1.DOC");
+    EXPECT_EQ(cFileInfo::MakeDosName("LongFileNameWithoutExt"), "LONGFI~1");
+    EXPECT_EQ(cFileInfo::MakeDosName("archive.tar.gz"), "ARCHIV~1.GZ");
+    EXPECT_EQ(cFileInfo::MakeDosName("page.html"), "PAGE~1.HTM");
+    // A blank alone makes the name lossy, even when what is left would fit.
+    EXPECT_EQ(cFileInfo::MakeDosName("a b.txt"), "AB~1.TXT");
+    EXPECT_EQ(cFileInfo::MakeDosName(".bashrc"), "BASHRC~1");
+}
+
+TEST(DosName, CharactersAShortNameCannotHoldBecomeUnderscores) {
+    EXPECT_EQ(cFileInfo::MakeDosName("a+b=c.txt"), "A_B_C~1.TXT");
+    EXPECT_EQ(cFileInfo::MakeDosName(QString::fromUtf8("\xc3\x9c"
+                                                       "berblick.pdf")),
+              "_BERBL~1.PDF");
+    EXPECT_EQ(cFileInfo::MakeDosName("[x];y,z.t+t"), "_X__Y_~1.T_T");
+}
+
+TEST(FileInfo, CaptureKeepsNamePathSizeAndDates) {
+    qs::test::TestHome home;
+    const QString path = writeFile(home, "Release Notes 2.txt", QByteArray(1536, 'x'));
+    const QDateTime before = QDateTime::currentDateTime().addSecs(-5);
+    const cFileInfo info = cFileInfo::Capture(path);
+    EXPECT_EQ(info.FileName(), "Release Notes 2.txt");
+    EXPECT_EQ(info.FullPath(), path);
+    EXPECT_EQ(info.DosName(), "RELEAS~1.TXT");
+    EXPECT_EQ(info.Size(), 1536);
+    ASSERT_TRUE(info.DateCreated().isValid());
+    EXPECT_GE(info.DateCreated(), before);
+    EXPECT_LE(info.DateCreated(), QDateTime::currentDateTime().addSecs(5));
+    EXPECT_FALSE(info.VersionInfo().HasVersionInfo());
+}
+
+TEST(FileInfo, OddNamesAreCapturedWhole) {
+    qs::test::TestHome home;
+    const QString accented = QString::fromUtf8("r\xc3\xa9sum\xc3\xa9 f\xc3\xbcr Stra\xc3\x9f"
+                                               "e.rtf");
+    const cFileInfo a = cFileInfo::Capture(writeFile(home, accented, "{\\rtf1}"));
+    EXPECT_EQ(a.FileName(), accented);
+    EXPECT_EQ(a.DosName(), "R_SUM_~1.RTF");
+    const cFileInfo b = cFileInfo::Capture(writeFile(home, "NOTES", "n"));
+    EXPECT_EQ(b.FileName(), "NOTES");
+    EXPECT_EQ(b.DosName(), "NOTES");
+    EXPECT_EQ(b.FileTypeName(), "File");
+    const cFileInfo c = cFileInfo::Capture(writeFile(home, "  spaced  out  ", ""));
+    EXPECT_EQ(c.FileName(), "  spaced  out  ");
+    EXPECT_EQ(c.DosName(), "SPACED~1");
+    EXPECT_EQ(c.Size(), 0);
+}
+
+TEST(FileInfo, TypeNameComesFromTheMimeDatabaseOrTheExtension) {
+    EXPECT_EQ(cFileInfo::TypeNameOf("x.qzq"), "QZQ File");
+    EXPECT_EQ(cFileInfo::TypeNameOf("x"), "File");
+    const QMimeType text = QMimeDatabase().mimeTypeForName("text/plain");
+    if (text.isValid() && !text.comment().isEmpty()) {
+        EXPECT_EQ(cFileInfo::TypeNameOf("Read Me.TXT"), text.comment());
+    }
+}
+
+TEST(FileInfo, AttributesFollowPermissionsAndDotNames) {
+    qs::test::TestHome home;
+    const QString locked = writeFile(home, "locked.dat", "1");
+    QFile::setPermissions(locked, QFileDevice::ReadOwner | QFileDevice::ReadGroup);
+    const cFileInfo ro = cFileInfo::Capture(locked);
+    EXPECT_TRUE(ro.ReadOnly());
+    EXPECT_FALSE(ro.Hidden());
+    const cFileInfo hidden = cFileInfo::Capture(writeFile(home, ".profile", "2"));
+    EXPECT_FALSE(hidden.ReadOnly());
+    EXPECT_TRUE(hidden.Hidden());
+    // No counterpart of these Windows attributes exists here.
+    EXPECT_FALSE(hidden.System());
+    EXPECT_FALSE(hidden.Archive());
+    EXPECT_FALSE(hidden.Temporary());
+}
+
+TEST(FileInfo, MissingFileOrFolderRaisesFileNotFound) {
+    qs::test::TestHome home;
+    try {
+        cFileInfo::Capture(home.file("nothing here.txt"));
+        FAIL() << "no error";
+    } catch (const QsError& e) {
+        EXPECT_EQ(e.number(), 53);
+        EXPECT_TRUE(e.description().contains("nothing here.txt"));
+    }
+    EXPECT_THROW(cFileInfo::Capture(home.path()), QsError);
+    EXPECT_THROW(cFileInfo::Capture(QString()), QsError);
+}
+
+TEST(FileInfo, IconIsAStoredImageOfTheType) {
+    qs::test::TestHome home;
+    const cFileInfo pdf = cFileInfo::Capture(writeFile(home, "a.pdf", "%PDF"));
+    const cFileInfo pdf2 = cFileInfo::Capture(writeFile(home, "b.PDF", "%PDF"));
+    const cFileInfo zip = cFileInfo::Capture(writeFile(home, "c.zip", "PK"));
+    ASSERT_TRUE(pdf.IconPng().startsWith("\x89PNG"));
+    const QImage icon = pdf.IconHandle();
+    ASSERT_EQ(icon.size(), QSize(32, 32));
+    EXPECT_EQ(qAlpha(icon.pixel(0, 0)), 0);
+    EXPECT_EQ(qAlpha(icon.pixel(16, 4)), 255);
+    EXPECT_EQ(pdf.IconHandle(), pdf2.IconHandle());
+    EXPECT_NE(pdf.IconHandle(), zip.IconHandle());
+    EXPECT_TRUE(cFileInfo().IconHandle().isNull());
+}
+
+TEST(FileInfo, ExecutableCarriesItsVersionBlock) {
+    qs::test::TestHome home;
+    const QString exe = writeFile(home, "tool.exe",
+                                  qs::test::PeImageBuilder::WithStrings({{"FileVersion", "7.1"}}));
+    EXPECT_EQ(cFileInfo::Capture(exe).VersionInfo().FileVersion(), "7.1");
+}
+
+TEST(FileInfo, FactsComeBackAsStored) {
+    qs::test::TestHome home;
+    const QString exe = writeFile(home, "Setup Tool.exe",
+                                  qs::test::PeImageBuilder::WithStrings({{"FileVersion", "7.1"}}));
+    const cFileInfo info = cFileInfo::Capture(exe);
+    const SourceFileFacts facts = info.ToFacts();
+    EXPECT_EQ(facts.FileTypeName, "exe");
+    const cFileInfo back = cFileInfo::FromFacts(facts);
+    EXPECT_EQ(back.FileName(), info.FileName());
+    EXPECT_EQ(back.FullPath(), info.FullPath());
+    EXPECT_EQ(back.DosName(), "SETUPT~1.EXE");
+    EXPECT_EQ(back.FileTypeName(), info.FileTypeName());
+    EXPECT_EQ(back.Size(), info.Size());
+    EXPECT_EQ(back.DateCreated(), info.DateCreated());
+    EXPECT_EQ(back.IconPng(), info.IconPng());
+    EXPECT_TRUE(back.VersionInfo() == info.VersionInfo());
+}
+
+TEST(FileInfo, SizeTextShowsUnitsAndExactBytes) {
+    EXPECT_EQ(cFileInfo::FormatSize(0), "0 bytes");
+    EXPECT_EQ(cFileInfo::FormatSize(1023), "1,023 bytes");
+    EXPECT_EQ(cFileInfo::FormatSize(1536), "1.50 KB (1,536 bytes)");
+    EXPECT_EQ(cFileInfo::FormatSize(15 * 1024 + 1000), "15.9 KB (16,360 bytes)");
+    EXPECT_EQ(cFileInfo::FormatSize(209715200), "200 MB (209,715,200 bytes)");
+    EXPECT_EQ(cFileInfo::FormatSize(3LL * 1024 * 1024 * 1024), "3.00 GB (3,221,225,472 bytes)");
+}
+
+TEST(FileInfo, DateTextSpellsDayAndMonth) {
+    const QDateTime morning(QDate(2024, 3, 4), QTime(10, 15, 0));
+    EXPECT_EQ(cFileInfo::FormatDate(morning), "Monday, March 04, 2024, 10:15:00 AM");
+    EXPECT_EQ(cFileInfo::FormatDate(QDateTime(QDate(2001, 12, 31), QTime(23, 5, 9))),
+              "Monday, December 31, 2001, 11:05:09 PM");
+    EXPECT_EQ(cFileInfo::FormatDate(QDateTime()), "");
+}
