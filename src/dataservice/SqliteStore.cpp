@@ -187,6 +187,14 @@ QSqlQuery SqliteStore::prepare(const QString& sql, const QString& source) {
 }
 
 void SqliteStore::exec(QSqlQuery& query, const QString& source) {
+    // A null QString is text that was never set: it is stored as empty text, not as NULL.
+    // A NULL is asked for with a typed null QVariant (StoredDate, OptionalId).
+    const QVariantList bound = query.boundValues();
+    for (int i = 0; i < bound.size(); ++i) {
+        const QVariant& value = bound.at(i);
+        if (!value.isNull() && value.typeId() == QMetaType::QString && value.toString().isNull())
+            query.bindValue(i, QStringLiteral(""));
+    }
     if (query.exec())
         return;
     const QString text = query.lastError().text();

@@ -1,0 +1,142 @@
+// Finding the database through the settings, and refusing files that are not libraries.
+#include "AppPaths.h"
+#include "DataServiceFixture.h"
+#include "DatabaseLocation.h"
+#include "ServiceErrors.h"
+#include "cSecurityService.h"
+#include "mRegConstants.h"
+#include "mRegistry.h"
+
+#include <QDir>
+#include <QFile>
+
+using namespace qs;
+using namespace qs::test;
+
+namespace {
+
+void pointSettingsAt(const QString& folder, const QString& file) {
+    SaveRegSetting(QString::fromLatin1(REG_KEY_DATABASE),
+                   QString::fromLatin1(REG_VAL_DATABASE_PATH), folder);
+    SaveRegSetting(QString::fromLatin1(REG_KEY_DATABASE),
+                   QString::fromLatin1(REG_VAL_DATABASE_FILENAME), file);
+}
+
+} // namespace
+
+using Opening = DataServiceTest;
+
+TEST_F(Opening, DefaultPathIsDatabaseFolderUnderAppPath) {
+    EXPECT_EQ(dbPath, QDir(AppPath()).filePath(QStringLiteral("Database/Quillstone.mdb")));
+    EXPECT_TRUE(QFile::exists(dbPath));
+    EXPECT_EQ(cSecurityService().GetUsers().LBound(), 0);
+}
+
+TEST_F(Opening, AbsolutePathIsTakenAsItStands) {
+    const QString folder = home->file(QStringLiteral("elsewhere"));
+    pointSettingsAt(folder, QStringLiteral("Other.mdb"));
+    EXPECT_EQ(ConfiguredDatabasePath(), QDir(folder).filePath(QStringLiteral("Other.mdb")));
+}
+
+TEST_F(Opening, MissingFileRaisesTheExactText) {
+    pointSettingsAt(home->file(QStringLiteral("nowhere")), QStringLiteral("Gone.mdb"));
+    cSecurityService security;
+    const QsError e = Raised([&] { security.GetUsers(); });
+    EXPECT_EQ(e.number(), kErrDatabaseNotFound);
+    EXPECT_EQ(e.description(),
+              QStringLiteral("The Quillstone Database does not exist in the specified path."));
+    EXPECT_EQ(e.source(), QStringLiteral("cSecurityService:GetUsers;"));
+    EXPECT_FALSE(QFile::exists(home->file(QStringLiteral("nowhere/Gone.mdb"))));
+}
+
+TEST_F(Opening, NewObjectReadsTheSettingsAfreshAndAnOldOneKeepsItsFile) {
+    cLibraryService before;
+    const int firstCategory = before.AddCategory(QStringLiteral("In the first"));
+
+    const QString second = home->file(QStringLiteral("second/Second.mdb"));
+    before.CreateDatabase(second, QString());
+    pointSettingsAt(home->file(QStringLiteral("second")), QStringLiteral("Second.mdb"));
+
+    cLibraryService after;
+    EXPECT_EQ(after.DatabasePath(), second);
+    after.AddCategory(QStringLiteral("In the second"));
+    EXPECT_EQ(before.GetLookup(QStringLiteral("Category")).UBound(), 2);
+    EXPECT_EQ(before.GetLookup(QStringLiteral("Category"))(2).Id, QString::number(firstCategory));
+    const auto secondRows = after.GetLookup(QStringLiteral("Category"));
+    ASSERT_EQ(secondRows.UBound(), 2);
+    EXPECT_EQ(secondRows(2).Description, QStringLiteral("In the second"));
+}
+
+TEST_F(Opening, NewRecordBelongsToTheDatabaseNamedWhenItWasMade) {
+    cAuthor author; // made while the settings name the first file
+    const QString second = home->file(QStringLiteral("second/Second.mdb"));
+    cLibraryService(dbPath).CreateDatabase(second, QString());
+    pointSettingsAt(home->file(QStringLiteral("second")), QStringLiteral("Second.mdb"));
+    author.BeginEdit(0);
+    author.FirstName(QStringLiteral("Ada"));
+    author.Save();
+    EXPECT_EQ(cLibraryService(dbPath).GetAuthors().UBound(), 1);
+    EXPECT_EQ(cLibraryService(second).GetAuthors().UBound(), 0);
+}
+
+class ForeignFile : public DataServiceTest {
+protected:
+    // Opens the file through both services and expects the corrupt-database error each time,
+    // with the file's bytes unchanged.
+    void expectRefusedAndUntouched(const QString& path) {
+        const QByteArray before = FileHash(path);
+        const QsError e1 = Raised([&] { cSecurityService(path).GetUsers(); });
+        const QsError e2 =
+            Raised([&] { cLibraryService(path).GetItems("SourceCode", 0, 0, 0, 0, 0, 0, 0); });
+        const QsError e3 = Raised([&] { cLibraryService(path).CompactDatabase(path); });
+        for (const QsError& e : {e1, e2, e3}) {
+            EXPECT_EQ(e.number(), kErrDatabaseCorrupt);
+            EXPECT_EQ(e.description(), QStringLiteral("The database is missing or corrupt."));
+        }
+        EXPECT_EQ(FileHash(path), before);
+    }
+};
+
+TEST_F(ForeignFile, EmptyFileIsRefusedAndStaysEmpty) {
+    const QString path = home->file(QStringLiteral("empty.mdb"));
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.close();
+    expectRefusedAndUntouched(path);
+    EXPECT_EQ(QFileInfo(path).size(), 0);
+}
+
+TEST_F(ForeignFile, GarbageIsRefused) {
+    const QString path = home->file(QStringLiteral("garbage.mdb"));
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(QByteArray(4096, '\x5a'));
+    file.close();
+    expectRefusedAndUntouched(path);
+}
+
+TEST_F(ForeignFile, AnotherSqliteSchemaIsRefused) {
+    const QString path = home->file(QStringLiteral("other.mdb"));
+    {
+        RawDb raw(path);
+        ASSERT_TRUE(raw.exec(QStringLiteral("CREATE TABLE Users (UserId TEXT)")));
+    }
+    expectRefusedAndUntouched(path);
+}
+
+TEST_F(ForeignFile, NewerSchemaVersionIsRefused) {
+    {
+        RawDb raw(dbPath);
+        ASSERT_TRUE(raw.exec(
+            QStringLiteral("INSERT INTO SchemaVersion (Version, AppliedOn) VALUES (99, 'x')")));
+        ASSERT_TRUE(raw.exec(QStringLiteral("PRAGMA wal_checkpoint(TRUNCATE)")));
+    }
+    expectRefusedAndUntouched(dbPath);
+}
+
+TEST_F(ForeignFile, DirectoryInPlaceOfTheFileIsRefused) {
+    const QString path = home->file(QStringLiteral("folder.mdb"));
+    QDir().mkpath(path);
+    const QsError e = Raised([&] { cSecurityService(path).GetUsers(); });
+    EXPECT_EQ(e.number(), kErrDatabaseCorrupt);
+}
