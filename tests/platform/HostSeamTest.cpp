@@ -8,8 +8,13 @@
 
 namespace {
 
+// The repository root: QS_SOURCE_DIR, or else two folders above this file.
 QString sourceDir() {
-    return qEnvironmentVariable("QS_SOURCE_DIR");
+    const QString fromEnv = qEnvironmentVariable("QS_SOURCE_DIR");
+    if (!fromEnv.isEmpty())
+        return fromEnv;
+    QDir dir = QFileInfo(QString::fromUtf8(__FILE__)).absoluteDir();
+    return dir.cdUp() && dir.cdUp() && dir.exists(QStringLiteral("src")) ? dir.path() : QString();
 }
 
 QStringList sourceFiles(const QString& folder) {
