@@ -27,8 +27,11 @@ RichTextBox::RichTextBox(const QString& name, QWidget* parent) : QTextEdit(paren
 }
 
 QString RichTextBox::Text() const {
-    QString text = toPlainText();
+    // The raw text keeps non-breaking spaces, which the plain-text view turns into blanks.
+    QString text = document()->toRawText();
+    text.replace(QChar(0x2029), QLatin1Char('\n'));
     text.replace(QChar(0x2028), QLatin1Char('\n'));
+    text.remove(QChar(0xFFFC));
     return ToCrLf(text);
 }
 

@@ -102,10 +102,11 @@ QString WriteBoxRtf(const QTextDocument& document) {
     RunFormat current;
     bool first = true;
     for (QTextBlock b = document.begin(); b != document.end(); b = b.next()) {
+        // The first line's control words still want their delimiting blank; "\\par " has it.
         out += first ? QLatin1String("\\deflang1033\\pard") + QLatin1String(kPlain)
-                     : QStringLiteral("\\par");
+                     : QStringLiteral("\\par ");
+        bool delimited = !first;
         first = false;
-        bool delimited = false;
         for (auto it = b.begin(); !it.atEnd(); ++it) {
             const QTextFragment fragment = it.fragment();
             const RunFormat format = runFormat(fragment.charFormat(), colours);
