@@ -70,10 +70,11 @@ void appendEscaped(QString& out, const QString& text) {
     }
 }
 
-// The switch from one run format to the next: \plain resets everything, so that a reader
-// without a group stack closes what was open.
-void appendSwitch(QString& out, const RunFormat& from, const RunFormat& to) {
-    if (from != RunFormat()) {
+// The switch from one run format to the next restates the whole format after \plain, so that a
+// reader without a group stack closes what was open.  `plainDone` is true right behind the
+// first line's "\plain\f3\fs17".
+void appendSwitch(QString& out, const RunFormat& from, const RunFormat& to, bool plainDone) {
+    if (!plainDone) {
         if (from.bold && !to.bold)
             out += QLatin1String("\\b0");
         out += QLatin1String(kPlain);
@@ -101,20 +102,23 @@ QString WriteBoxRtf(const QTextDocument& document) {
 
     RunFormat current;
     bool first = true;
+    bool plainDone = false;
     for (QTextBlock b = document.begin(); b != document.end(); b = b.next()) {
         // The first line's control words still want their delimiting blank; "\\par " has it.
         out += first ? QLatin1String("\\deflang1033\\pard") + QLatin1String(kPlain)
                      : QStringLiteral("\\par ");
         bool delimited = !first;
+        plainDone = first;
         first = false;
         for (auto it = b.begin(); !it.atEnd(); ++it) {
             const QTextFragment fragment = it.fragment();
             const RunFormat format = runFormat(fragment.charFormat(), colours);
             if (format != current) {
-                appendSwitch(out, current, format);
+                appendSwitch(out, current, format, plainDone);
                 current = format;
                 delimited = false;
             }
+            plainDone = false;
             if (!delimited) {
                 out += QLatin1Char(' ');
                 delimited = true;

@@ -68,13 +68,13 @@ TEST(RichTextBox, ColouredAndBoldRunsUseTheColourTableAndPlainResets) {
     select(box, "red");
     box.setSelColor(vbRed);
 
-    const QString expected =
-        kHeader + "{\\colortbl\\red0\\green0\\blue0;\\red0\\green0\\blue255;"
-                  "\\red255\\green0\\blue0;}\r\n"
-                  "\\deflang1033\\pard\\plain\\f3\\fs17 one \\cf1\\b two\\b0\\plain\\f3\\fs17 "
-                  " three\r\n"
-                  "\\par \\cf2 red\r\n"
-                  "\\par }\r\n";
+    const QString expected = kHeader + "{\\colortbl\\red0\\green0\\blue0;\\red0\\green0\\blue255;"
+                                       "\\red255\\green0\\blue0;}\r\n"
+                                       "\\deflang1033\\pard\\plain\\f3\\fs17 one "
+                                       "\\plain\\f3\\fs17\\cf1\\b two\\b0\\plain\\f3\\fs17 "
+                                       " three\r\n"
+                                       "\\par \\plain\\f3\\fs17\\cf2 red\r\n"
+                                       "\\par }\r\n";
     EXPECT_EQ(box.TextRTF().toStdString(), expected.toStdString());
 }
 
