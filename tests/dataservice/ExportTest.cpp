@@ -1,0 +1,259 @@
+#include "Cp1252.h"
+#include "DataServiceFixture.h"
+#include "ExportWriters.h"
+
+#include <QFile>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QStandardPaths>
+#include <QXmlStreamReader>
+
+using namespace qs;
+using namespace qs::test;
+
+namespace {
+
+QByteArray readAll(const QString& path) {
+    QFile f(path);
+    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
+}
+
+void writeAll(const QString& path, const QByteArray& bytes) {
+    QFile f(path);
+    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+    f.write(bytes);
+}
+
+// One SourceItem as read back: its id and its fields, revisions as lists of fields.
+struct ReadItem {
+    QString id;
+    QMap<QString, QString> fields;
+    QVector<QMap<QString, QString>> revisions;
+    bool hasRevisions = false;
+};
+
+// Parses an export with a real XML reader; a parse error fails the test.
+QVector<ReadItem> parseExport(const QString& path) {
+    QVector<ReadItem> items;
+    QXmlStreamReader r(readAll(path));
+    EXPECT_TRUE(r.readNextStartElement());
+    EXPECT_EQ(r.name(), QLatin1String("SourceItems"));
+    while (r.readNextStartElement()) {
+        EXPECT_EQ(r.name(), QLatin1String("SourceItem"));
+        ReadItem item;
+        item.id = r.attributes().value(QLatin1String("SourceId")).toString();
+        while (r.readNextStartElement()) {
+            if (r.name() == QLatin1String("Revisions")) {
+                item.hasRevisions = true;
+                while (r.readNextStartElement()) {
+                    QMap<QString, QString> rev;
+                    while (r.readNextStartElement()) {
+                        const QString name = r.name().toString();
+                        rev[name] = r.readElementText();
+                    }
+                    item.revisions.append(rev);
+                }
+            } else {
+                const QString name = r.name().toString();
+                item.fields[name] = r.readElementText();
+            }
+        }
+        items.append(item);
+    }
+    EXPECT_FALSE(r.hasError()) << r.errorString().toStdString();
+    return items;
+}
+
+QStringList markerLines(const QString& path) {
+    QStringList hits;
+    for (const QByteArray& line : readAll(path).split('\n')) {
+        if (line.contains("<SourceItem SourceId = "))
+            hits << QString::fromUtf8(line.trimmed());
+    }
+    return hits;
+}
+
+const QString kNastyCode =
+    QString::fromUtf8("If a < b And c > d Then s = \"x & y\" ' it's\r\n"
+                      "\tDebug.Print \"\xe2\x82\xac \xc3\xbc \xe4\xb8\xad\"\r\n"
+                      "</SourceItem> <SourceItem SourceId = \"9\">\r\n") +
+    QChar(0x01) + QStringLiteral("End If");
+
+class Export : public DataServiceTest {
+protected:
+    cSourceCode item(const QString& description, const QString& code, int revisions) {
+        const int id = addCode(description);
+        cSourceCode rec = cLibraryService(dbPath).GetSourceCode(id);
+        rec.BeginEdit(0);
+        rec.Code(code);
+        rec.Notes(QStringLiteral("Notes with ]]> and &amp;"));
+        for (int i = 0; i < revisions; ++i) {
+            cRevision& r = rec.Revisions().Add(0);
+            r.Version(QStringLiteral("1.0.%1").arg(i));
+            r.Comment(QStringLiteral("Change <%1>").arg(i));
+            r.DateRevised(QDateTime(QDate(2003, 5, 1 + i), QTime(9, 30)));
+        }
+        rec.Save();
+        return cLibraryService(dbPath).GetSourceCode(id);
+    }
+};
+
+} // namespace
+
+TEST_F(Export, XmlItemStartsWithTheMarkerLineAndEscapesEveryField) {
+    const cSourceCode rec = item(QStringLiteral("Compare <two> & \"more\""), kNastyCode, 0);
+    const QString path = home->file("out.xml");
+    rec.ExportXml(path, false, false);
+    EXPECT_EQ(markerLines(path),
+              QStringList{QStringLiteral("<SourceItem SourceId = \"%1\">").arg(rec.Id())});
+    const auto items = parseExport(path);
+    ASSERT_EQ(items.size(), 1);
+    EXPECT_EQ(items[0].id, QString::number(rec.Id()));
+    EXPECT_EQ(items[0].fields["Description"], "Compare <two> & \"more\"");
+    // CR LF survive the reader; the control character XML can't carry is replaced.
+    QString expected = kNastyCode;
+    expected.replace(QChar(0x01), QChar(0xFFFD));
+    EXPECT_EQ(items[0].fields["Code"], expected);
+    EXPECT_EQ(items[0].fields["Notes"], "Notes with ]]> and &amp;");
+    EXPECT_EQ(items[0].fields["CodeTypeId"], "201");
+    EXPECT_FALSE(items[0].hasRevisions);
+    EXPECT_TRUE(readAll(path).contains("\r\n</SourceItems>\r\n"));
+}
+
+TEST_F(Export, XmlCarriesRevisionsOnlyWhenAsked) {
+    const cSourceCode rec = item(QStringLiteral("With history"), QStringLiteral("x = 1"), 2);
+    const QString path = home->file("history.xml");
+    rec.ExportXml(path, false, true);
+    auto items = parseExport(path);
+    ASSERT_EQ(items.size(), 1);
+    ASSERT_TRUE(items[0].hasRevisions);
+    ASSERT_EQ(items[0].revisions.size(), 2);
+    EXPECT_EQ(items[0].revisions[0]["Version"], "1.0.0");
+    EXPECT_EQ(items[0].revisions[1]["Comment"], "Change <1>");
+    EXPECT_EQ(items[0].revisions[1]["DateRevised"], "2003-05-02T09:30:00");
+    rec.ExportXml(path, false, false);
+    items = parseExport(path);
+    ASSERT_EQ(items.size(), 1);
+    EXPECT_FALSE(items[0].hasRevisions);
+}
+
+TEST_F(Export, AppendingAddsItemsAndKeepsTheDocumentWellFormed) {
+    const cSourceCode a = item(QStringLiteral("First"), QStringLiteral("a"), 1);
+    const cSourceCode b = item(QStringLiteral("Second"), kNastyCode, 1);
+    const QString path = home->file("many.xml");
+    a.ExportXml(path, true, false); // append to a file that isn't there makes it
+    b.ExportXml(path, true, true);
+    a.ExportXml(path, true, true);
+    const auto items = parseExport(path);
+    ASSERT_EQ(items.size(), 3);
+    EXPECT_EQ(items[0].fields["Description"], "First");
+    EXPECT_EQ(items[1].fields["Description"], "Second");
+    EXPECT_TRUE(items[1].hasRevisions);
+    EXPECT_EQ(items[2].id, QString::number(a.Id()));
+    EXPECT_EQ(markerLines(path).size(), 3);
+}
+
+TEST_F(Export, AppendingToAFileThatIsNoExportRaisesAndLeavesItAlone) {
+    const cSourceCode rec = item(QStringLiteral("Item"), QStringLiteral("a"), 0);
+    const QList<QByteArray> strangers = {
+        "just some text\r\n",
+        "<?xml version=\"1.0\"?>\r\n<Other><SourceItem SourceId = \"1\"/></Other>\r\n",
+        "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\r\n<SourceItems>\r\n<SourceItem SourceId = "
+        "\"1\">\r\n",
+        "<?xml version=\"1.0\" encoding=\"ISO-8859-1\"?>\r\n<SourceItems>\r\n</SourceItems>\r\n"};
+    for (const QByteArray& bytes : strangers) {
+        const QString path = home->file("stranger.xml");
+        writeAll(path, bytes);
+        const QsError e = Raised([&] { rec.ExportXml(path, true, false); });
+        EXPECT_EQ(e.source(), "cSourceCode:ExportXml;");
+        EXPECT_EQ(readAll(path), bytes);
+    }
+}
+
+TEST_F(Export, WithoutAppendAnyExistingFileIsReplaced) {
+    const cSourceCode rec = item(QStringLiteral("Fresh"), QStringLiteral("a"), 0);
+    const QString path = home->file("old.xml");
+    writeAll(path, "not xml at all");
+    rec.ExportXml(path, false, false);
+    ASSERT_EQ(parseExport(path).size(), 1);
+}
+
+TEST_F(Export, TextIsWindows1252WithCrLfLineEnds) {
+    const cSourceCode rec = item(QStringLiteral("Text"), QStringLiteral("a"), 0);
+    const QString path = home->file("out.txt");
+    rec.ExportText(path, QString::fromUtf8("one\ntwo\r\nthree\rfour \xe2\x82\xac\xc3\xa9\xc3\xbc"
+                                           "\xe2\x80\x94\xe2\x80\x9cq\xe2\x80\x9d\xe4\xb8\xad"
+                                           "\xf0\x9f\x98\x80."));
+    EXPECT_EQ(readAll(path),
+              QByteArray("one\r\ntwo\r\nthree\r\nfour \x80\xe9\xfc\x97\x93q\x94??."));
+}
+
+TEST_F(Export, TextToAFolderThatIsNotThereRaises) {
+    const cSourceCode rec = item(QStringLiteral("Text"), QStringLiteral("a"), 0);
+    const QsError e = Raised([&] { rec.ExportText(home->file("no/such/dir/x.txt"), "a"); });
+    EXPECT_EQ(e.source(), "cSourceCode:ExportText;");
+}
+
+TEST(Cp1252, EveryByteComesBackThroughTheCodePage) {
+    QByteArray all;
+    for (int b = 0; b < 256; ++b)
+        all.append(char(b));
+    const QString text = FromCp1252(all);
+    EXPECT_EQ(text.at(0x80), QChar(0x20AC));
+    EXPECT_EQ(text.at(0x9F), QChar(0x0178));
+    EXPECT_EQ(text.at(0x81), QChar(0x0081));
+    EXPECT_EQ(text.at(0xFF), QChar(0x00FF));
+    EXPECT_EQ(ToCp1252(text), all);
+    EXPECT_EQ(ToCp1252(QString(QChar(0x0100))), "?");
+}
+
+TEST_F(Export, PdfTextComesBackPaginatedWithPageNumbers) {
+    const QString pdftotext = QStandardPaths::findExecutable(QStringLiteral("pdftotext"));
+    if (pdftotext.isEmpty())
+        GTEST_SKIP() << "pdftotext (poppler-utils) is not installed";
+    QStringList lines;
+    for (int i = 1; i <= 150; ++i)
+        lines << QStringLiteral("Line%1 Dim x%1 As Long").arg(i, 3, 10, QLatin1Char('0'));
+    lines << QStringLiteral("Tail") + QString(300, QLatin1Char('w')) + QStringLiteral("End");
+    const cSourceCode rec = item(QStringLiteral("Pdf"), QStringLiteral("a"), 0);
+    const QString path = home->file("out.pdf");
+    rec.ExportPdf(path, lines.join(QStringLiteral("\r\n")));
+    ASSERT_TRUE(readAll(path).startsWith("%PDF-"));
+
+    QProcess p;
+    p.start(pdftotext, {QStringLiteral("-layout"), path, QStringLiteral("-")});
+    ASSERT_TRUE(p.waitForFinished(60000));
+    const QString text = QString::fromUtf8(p.readAllStandardOutput());
+    int pages = 0;
+    for (int n = 1; n < 10; ++n) {
+        if (text.contains(QStringLiteral("Page %1 of").arg(n)))
+            pages = n;
+    }
+    ASSERT_GE(pages, 2);
+    EXPECT_TRUE(text.contains(QStringLiteral("Page %1 of %1").arg(pages)));
+    EXPECT_EQ(text.count(QLatin1Char('\f')), pages);
+    int from = 0;
+    for (int i = 0; i < 150; ++i) {
+        // Each line comes back whole and in order.
+        const int at = text.indexOf(lines[i], from);
+        ASSERT_GE(at, 0) << lines[i].toStdString();
+        from = at;
+    }
+    // The long line is wrapped, not cut.
+    const QString flat = QString(text).remove(QRegularExpression(QStringLiteral("\\s")));
+    EXPECT_TRUE(flat.contains(QStringLiteral("Tail") + QString(300, QLatin1Char('w')) +
+                              QStringLiteral("End")));
+}
+
+TEST_F(Export, PdfOfEmptyTextIsOneNumberedPage) {
+    const QString pdftotext = QStandardPaths::findExecutable(QStringLiteral("pdftotext"));
+    if (pdftotext.isEmpty())
+        GTEST_SKIP() << "pdftotext (poppler-utils) is not installed";
+    const cSourceCode rec = item(QStringLiteral("Pdf"), QStringLiteral("a"), 0);
+    const QString path = home->file("empty.pdf");
+    rec.ExportPdf(path, QString());
+    QProcess p;
+    p.start(pdftotext, {path, QStringLiteral("-")});
+    ASSERT_TRUE(p.waitForFinished(60000));
+    EXPECT_EQ(QString::fromUtf8(p.readAllStandardOutput()).trimmed(), "Page 1 of 1");
+}
