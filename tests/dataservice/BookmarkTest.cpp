@@ -1,0 +1,88 @@
+// AddBookmark, DeleteBookmark and GetBookmarks: per user, both tables.
+#include "DataServiceFixture.h"
+#include "ServiceErrors.h"
+
+using namespace qs;
+using namespace qs::test;
+
+namespace {
+const QString kCode = QStringLiteral("BkMark_SrcCode");
+const QString kFile = QStringLiteral("BkMark_SrcFile");
+} // namespace
+
+class Bookmarks : public DataServiceTest {
+protected:
+    void SetUp() override {
+        DataServiceTest::SetUp();
+        addUser(QStringLiteral("ann"));
+        addUser(QStringLiteral("bob"));
+    }
+};
+
+TEST_F(Bookmarks, EachUserSeesOnlyHisOwnInBothTables) {
+    const int code = addCode(QStringLiteral("Snippet"), 1, 201, 1);
+    const int file = addFile(QStringLiteral("Paper"), 1, 101);
+    cLibraryService library(dbPath);
+    library.AddBookmark(kCode, code, QStringLiteral("ann"), true);
+    library.AddBookmark(kFile, file, QStringLiteral("ann"), true);
+    library.AddBookmark(kFile, file, QStringLiteral("bob"), true);
+
+    const auto annCode = library.GetBookmarks(kCode, QStringLiteral("ann"), true);
+    ASSERT_EQ(annCode.UBound(), 1);
+    EXPECT_EQ(annCode(1).Id, code);
+    EXPECT_EQ(annCode(1).TypeId, 201);
+    EXPECT_EQ(annCode(1).Tested, 1);
+    EXPECT_EQ(annCode(1).Description, QStringLiteral("Snippet"));
+    const auto annFile = library.GetBookmarks(kFile, QStringLiteral("ann"));
+    ASSERT_EQ(annFile.UBound(), 1);
+    EXPECT_EQ(annFile(1).TypeId, 101);
+    const auto bobCode = library.GetBookmarks(kCode, QStringLiteral("bob"));
+    EXPECT_EQ(bobCode.LBound(), 0);
+    EXPECT_EQ(bobCode.UBound(), 0);
+}
+
+TEST_F(Bookmarks, SecondBookmarkOfTheSameItemAddsNothing) {
+    const int file = addFile(QStringLiteral("Paper"));
+    cLibraryService library(dbPath);
+    library.AddBookmark(kFile, file, QStringLiteral("ann"));
+    library.AddBookmark(kFile, file, QStringLiteral("ann"));
+    EXPECT_EQ(library.GetBookmarks(kFile, QStringLiteral("ann")).UBound(), 1);
+}
+
+TEST_F(Bookmarks, BookmarksComeInTheOrderTheyWereAdded) {
+    const int first = addCode(QStringLiteral("zeta"));
+    const int second = addCode(QStringLiteral("alpha"));
+    cLibraryService library(dbPath);
+    library.AddBookmark(kCode, second, QStringLiteral("ann"));
+    library.AddBookmark(kCode, first, QStringLiteral("ann"));
+    const auto rows = library.GetBookmarks(kCode, QStringLiteral("ann"));
+    ASSERT_EQ(rows.UBound(), 2);
+    EXPECT_EQ(rows(1).Id, second);
+    EXPECT_EQ(rows(2).Id, first);
+}
+
+TEST_F(Bookmarks, DeletingABookmarkLeavesTheItemAndOtherUsersBookmarks) {
+    const int code = addCode(QStringLiteral("Kept"));
+    cLibraryService library(dbPath);
+    library.AddBookmark(kCode, code, QStringLiteral("ann"));
+    library.AddBookmark(kCode, code, QStringLiteral("bob"));
+    library.DeleteBookmark(kCode, QStringLiteral("ann"), code);
+    library.DeleteBookmark(kCode, QStringLiteral("ann"), code); // gone already: nothing
+    EXPECT_EQ(library.GetBookmarks(kCode, QStringLiteral("ann")).UBound(), 0);
+    EXPECT_EQ(library.GetBookmarks(kCode, QStringLiteral("bob")).UBound(), 1);
+    EXPECT_EQ(library.GetSourceCode(code).Description(), QStringLiteral("Kept"));
+}
+
+TEST_F(Bookmarks, UnknownUserItemOrTableIsRefused) {
+    const int code = addCode(QStringLiteral("x"));
+    cLibraryService library(dbPath);
+    EXPECT_EQ(Raised([&] { library.AddBookmark(kCode, code, QStringLiteral("nobody")); }).number(),
+              kErrMissingParameters);
+    EXPECT_EQ(Raised([&] { library.AddBookmark(kCode, 999, QStringLiteral("ann")); }).number(),
+              kErrMissingParameters);
+    EXPECT_EQ(Raised([&] {
+                  library.AddBookmark(QStringLiteral("SourceCode"), code, QStringLiteral("ann"));
+              }).number(),
+              kErrMissingParameters);
+    EXPECT_EQ(library.GetBookmarks(kCode, QStringLiteral("ann")).UBound(), 0);
+}

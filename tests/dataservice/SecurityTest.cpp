@@ -1,0 +1,205 @@
+// cSecurityService and cUser: logins, lookups, the two markers, renaming and deleting users.
+#include "DataServiceFixture.h"
+#include "ServiceErrors.h"
+#include "cSecurityService.h"
+
+using namespace qs;
+using namespace qs::test;
+
+using Security = DataServiceTest;
+
+TEST_F(Security, NewDatabaseHasNoUsers) {
+    const auto users = cSecurityService(dbPath).GetUsers(0, 0, false, QString());
+    EXPECT_EQ(users.LBound(), 0);
+    EXPECT_EQ(users.UBound(), 0);
+}
+
+TEST_F(Security, LoginWithTheRightPasswordGivesTheUser) {
+    addUser(QStringLiteral("ann"), QStringLiteral("Secret"));
+    const cUser user =
+        cSecurityService(dbPath).GetUser(QStringLiteral("ann"), QStringLiteral("Secret"), "0");
+    EXPECT_EQ(user.UserId(), QStringLiteral("ann"));
+    EXPECT_EQ(user.AccessLevel(), 1);
+    EXPECT_EQ(user.FirstName(), QStringLiteral("First ann"));
+}
+
+TEST_F(Security, WrongPasswordAndUnknownIdGiveTheSameMarkerRecord) {
+    addUser(QStringLiteral("ann"), QStringLiteral("Secret"));
+    cSecurityService security(dbPath);
+    const cUser wrong = security.GetUser(QStringLiteral("ann"), QStringLiteral("secret"), "");
+    const cUser unknown = security.GetUser(QStringLiteral("zed"), QStringLiteral("Secret"), "");
+    for (const cUser& user : {wrong, unknown}) {
+        EXPECT_EQ(user.UserId(), QStringLiteral("Q70707"));
+        EXPECT_TRUE(user.Password().isEmpty());
+        EXPECT_TRUE(user.FirstName().isEmpty());
+        EXPECT_EQ(user.AccessLevel(), 0);
+        EXPECT_FALSE(user.IsStored());
+    }
+}
+
+TEST_F(Security, LookupWithoutPasswordGivesTheFullRecord) {
+    addUser(QStringLiteral("ann"), QStringLiteral("Secret"), 2);
+    const cUser user =
+        cSecurityService(dbPath).GetUser(QStringLiteral("ann"), QString(), QStringLiteral("ann"));
+    EXPECT_EQ(user.Password(), QStringLiteral("Secret"));
+    EXPECT_EQ(user.Question(), QStringLiteral("Pet?"));
+    EXPECT_EQ(user.Answer(), QStringLiteral("Rex"));
+    EXPECT_EQ(user.AccessLevel(), 2);
+    EXPECT_EQ(cSecurityService(dbPath).GetUser(QStringLiteral("zed"), QString(), "").UserId(),
+              QStringLiteral("Q70707"));
+}
+
+TEST_F(Security, FirstUserIsMadeFromTheMarkerRecord) {
+    cSecurityService security(dbPath);
+    cUser user = security.GetUser(QStringLiteral("boss"), QStringLiteral("pw"), QString());
+    ASSERT_EQ(user.UserId(), QStringLiteral("Q70707"));
+    user.BeginEdit(0);
+    user.UserId(QStringLiteral("boss"));
+    user.FirstName(QStringLiteral("Big"));
+    user.LastName(QStringLiteral("Boss"));
+    user.Password(QStringLiteral("pw"));
+    user.AccessLevel(1);
+    user.Save(QStringLiteral("boss"), 0);
+
+    // The window then saves a second new record of the same id with the level it offered; the
+    // user is written over, and his own level stays.
+    cUser again(dbPath);
+    again.BeginEdit(0);
+    again.UserId(QStringLiteral("boss"));
+    again.Password(QStringLiteral("pw"));
+    again.FirstName(QStringLiteral("Big"));
+    again.LastName(QStringLiteral("Boss"));
+    again.AccessLevel(3);
+    again.Question(QStringLiteral("Q"));
+    again.Answer(QStringLiteral("A"));
+    again.Save(QStringLiteral("boss"), 0);
+
+    const auto users = security.GetUsers();
+    ASSERT_EQ(users.UBound(), 1);
+    EXPECT_EQ(users(1).UserId, QStringLiteral("boss"));
+    EXPECT_EQ(users(1).FirstName, QStringLiteral("Big"));
+    EXPECT_EQ(users(1).LastName, QStringLiteral("Boss"));
+    const cUser stored = security.GetUser(QStringLiteral("boss"), QStringLiteral("pw"), "");
+    EXPECT_EQ(stored.AccessLevel(), 1);
+    EXPECT_EQ(stored.Question(), QStringLiteral("Q"));
+}
+
+TEST_F(Security, MarkerIdItselfCannotBeSaved) {
+    cUser user = cSecurityService(dbPath).GetUser(QStringLiteral("x"), QStringLiteral("y"), "");
+    user.BeginEdit(0);
+    EXPECT_EQ(Raised([&] { user.Save(QString(), 0); }).number(), kErrMissingParameters);
+    EXPECT_EQ(cSecurityService(dbPath).GetUsers().UBound(), 0);
+}
+
+TEST_F(Security, ForgottenPasswordNeedsTheExactAnswer) {
+    addUser(QStringLiteral("ann"), QStringLiteral("Secret"));
+    cSecurityService security(dbPath);
+    EXPECT_EQ(security.GetPasswordQuestion(QStringLiteral("ann")), QStringLiteral("Pet?"));
+    EXPECT_EQ(security.GetPasswordQuestion(QStringLiteral("zed")), QString());
+    EXPECT_EQ(security.GetForgottenPassword(QStringLiteral("ann"), QStringLiteral("Rex")),
+              QStringLiteral("Secret"));
+    EXPECT_EQ(security.GetForgottenPassword(QStringLiteral("ann"), QStringLiteral("rex")),
+              QStringLiteral("707070"));
+    EXPECT_EQ(security.GetForgottenPassword(QStringLiteral("zed"), QStringLiteral("Rex")),
+              QStringLiteral("707070"));
+}
+
+TEST_F(Security, NewUserIdRenamesTheUserAndCarriesHisBookmarks) {
+    addUser(QStringLiteral("admin"));
+    addUser(QStringLiteral("ann"), QStringLiteral("pw"), 2);
+    const int code = addCode(QStringLiteral("Marked"));
+    cLibraryService library(dbPath);
+    library.AddBookmark(QStringLiteral("BkMark_SrcCode"), code, QStringLiteral("ann"));
+
+    cUser ann = cSecurityService(dbPath).GetUser(QStringLiteral("ann"), QString(), "admin");
+    ann.BeginEdit(0);
+    ann.NewUserId(QStringLiteral("anna"));
+    ann.Save(QStringLiteral("admin"), 0);
+
+    cSecurityService security(dbPath);
+    EXPECT_EQ(security.GetUser(QStringLiteral("ann"), QStringLiteral("pw"), "").UserId(),
+              QStringLiteral("Q70707"));
+    EXPECT_EQ(security.GetUser(QStringLiteral("anna"), QStringLiteral("pw"), "").UserId(),
+              QStringLiteral("anna"));
+    EXPECT_EQ(
+        library.GetBookmarks(QStringLiteral("BkMark_SrcCode"), QStringLiteral("anna")).UBound(), 1);
+    EXPECT_EQ(
+        library.GetBookmarks(QStringLiteral("BkMark_SrcCode"), QStringLiteral("ann")).UBound(), 0);
+}
+
+TEST_F(Security, RenameOntoATakenIdChangesNothing) {
+    addUser(QStringLiteral("admin"));
+    addUser(QStringLiteral("ann"));
+    cUser admin = cSecurityService(dbPath).GetUser(QStringLiteral("admin"), QString(), "");
+    admin.BeginEdit(0);
+    admin.NewUserId(QStringLiteral("ann"));
+    admin.FirstName(QStringLiteral("Changed"));
+    const QsError e = Raised([&] { admin.Save(QStringLiteral("admin"), 0); });
+    EXPECT_EQ(e.number(), kErrDuplicateUser);
+    EXPECT_EQ(cSecurityService(dbPath).GetUser(QStringLiteral("admin"), QString(), "").FirstName(),
+              QStringLiteral("First admin"));
+}
+
+TEST_F(Security, DeletingAUserTakesHisBookmarksOnly) {
+    addUser(QStringLiteral("admin"));
+    addUser(QStringLiteral("ann"));
+    const int author = addAuthor(QStringLiteral("First ann"), QStringLiteral("Last ann"));
+    const int code = addCode(QStringLiteral("Marked"));
+    cLibraryService library(dbPath);
+    library.AddBookmark(QStringLiteral("BkMark_SrcCode"), code, QStringLiteral("ann"));
+
+    cUser ann = cSecurityService(dbPath).GetUser(QStringLiteral("ann"), QString(), "admin");
+    ann.BeginEdit(0);
+    ann.Deleted(true);
+    ann.Save(QStringLiteral("admin"), 0);
+
+    EXPECT_EQ(cSecurityService(dbPath).GetUsers().UBound(), 1);
+    RawDb raw(dbPath);
+    EXPECT_EQ(raw.value(QStringLiteral("SELECT COUNT(*) FROM BkMark_SrcCode")).toInt(), 0);
+    EXPECT_TRUE(library.GetAuthor(author).has_value());
+    EXPECT_EQ(library.GetSourceCode(code).Description(), QStringLiteral("Marked"));
+}
+
+TEST_F(Security, OnlyAnAdministratorChangesOtherUsers) {
+    addUser(QStringLiteral("admin"));
+    addUser(QStringLiteral("reader"), QStringLiteral("pw"), 2);
+    addUser(QStringLiteral("other"), QStringLiteral("pw"), 2);
+    cSecurityService security(dbPath);
+
+    cUser other = security.GetUser(QStringLiteral("other"), QString(), "reader");
+    other.BeginEdit(0);
+    other.Password(QStringLiteral("hijacked"));
+    const QsError e = Raised([&] { other.Save(QStringLiteral("reader"), 0); });
+    EXPECT_EQ(e.number(), kErrNotAuthorized);
+    EXPECT_EQ(e.description(), QStringLiteral("Access Not Authorized \""));
+    EXPECT_EQ(Raised([&] { other.Save(QStringLiteral("stranger"), 0); }).number(),
+              kErrNotAuthorized);
+
+    // A user changes his own password, but not his own level.
+    cUser reader = security.GetUser(QStringLiteral("reader"), QString(), "reader");
+    reader.BeginEdit(0);
+    reader.Password(QStringLiteral("new"));
+    reader.AccessLevel(1);
+    reader.Save(QStringLiteral("reader"), 0);
+    const cUser stored = security.GetUser(QStringLiteral("reader"), QStringLiteral("new"), "");
+    EXPECT_EQ(stored.UserId(), QStringLiteral("reader"));
+    EXPECT_EQ(stored.AccessLevel(), 2);
+    EXPECT_EQ(security.GetUser(QStringLiteral("other"), QStringLiteral("pw"), "").UserId(),
+              QStringLiteral("other"));
+}
+
+TEST_F(Security, UsersListInNameOrderWithoutPasswords) {
+    addUser(QStringLiteral("zz"));
+    addUser(QStringLiteral("aa"), QStringLiteral("pw"), 3);
+    const auto users = cSecurityService(dbPath).GetUsers();
+    ASSERT_EQ(users.UBound(), 2);
+    EXPECT_EQ(users(1).UserId, QStringLiteral("aa"));
+    EXPECT_EQ(users(1).AccessType, QStringLiteral("Read/Write"));
+    EXPECT_EQ(users(1).DisplayName, QStringLiteral("First aa Last aa"));
+    EXPECT_EQ(users(2).UserId, QStringLiteral("zz"));
+    for (const UserRow& row : users) {
+        EXPECT_NE(row.Reserved, QStringLiteral("pw"));
+        EXPECT_NE(row.AccessType, QStringLiteral("pw"));
+    }
+    EXPECT_EQ(cLibraryService(dbPath).GetUsers(false).UBound(), 2);
+}
