@@ -1,0 +1,185 @@
+#include "CoreFixture.h"
+#include "FirstUserScript.h"
+
+#include "FormBase.h"
+#include "Globals.h"
+#include "frmDatabase.h"
+#include "frmLogin.h"
+#include "frmUser.h"
+#include "mRegConstants.h"
+#include "mRegistry.h"
+
+#include <QFileInfo>
+#include <QGroupBox>
+#include <QPushButton>
+#include <QRadioButton>
+
+using namespace qs;
+using namespace qs::test;
+
+namespace {
+
+class DatabaseDialog : public CoreFixture {
+protected:
+    void SetUp() override {
+        CoreFixture::SetUp();
+        missing = libraryPath(QStringLiteral("Missing.mdb"));
+        pointDatabaseAt(missing);
+        dialog().Show();
+    }
+    frmDatabase& dialog() { return Forms::get<frmDatabase>(); }
+    QString missing;
+};
+
+TEST_F(DatabaseDialog, ShowsItsFrameOptionsAndButtons) {
+    EXPECT_EQ(dialog().Caption(), QStringLiteral("Database"));
+    EXPECT_EQ(dialog().frmeDatabase->title(), QStringLiteral("Database Is Missing"));
+    EXPECT_EQ(dialog().optNew->text(), QStringLiteral("Create New Database"));
+    EXPECT_EQ(dialog().optSearch->text(), QStringLiteral("Search For Database"));
+    EXPECT_EQ(dialog().cmdCancel->text(), QStringLiteral("Cancel"));
+    EXPECT_EQ(dialog().cmdHelp->text(), QStringLiteral("Help"));
+}
+
+TEST_F(DatabaseDialog, CancellingTheFileDialogLeavesTheDialogOpenAndTheRegistryUnchanged) {
+    dialog().optSearch->setChecked(true);
+    hostScript.answerFileDialog(QString());
+    dialog().cmdOK->click();
+
+    EXPECT_EQ(hostScript.lastFileDialog().title, QStringLiteral("Select a Tarnwick Database."));
+    EXPECT_EQ(hostScript.lastFileDialog().filter, QStringLiteral("MsAccess Files (*.mdb)|*.mdb"));
+    EXPECT_FALSE(hostScript.lastFileDialog().forSave);
+    EXPECT_EQ(registryFileName(), QStringLiteral("Missing.mdb"));
+    EXPECT_EQ(registryPath(), QFileInfo(missing).absolutePath());
+    ASSERT_NE(Forms::find<frmDatabase>(), nullptr);
+    EXPECT_TRUE(dialog().isVisible());
+    EXPECT_EQ(Forms::find<frmLogin>(), nullptr);
+    EXPECT_EQ(hostScript.mousePointer(), vbDefault);
+}
+
+TEST_F(DatabaseDialog, ChoosingADatabaseNamesItResetsTheAttemptsAndShowsTheLogin) {
+    const QString found = makeLibrary(QStringLiteral("Found.mdb"));
+    pointDatabaseAt(missing);
+    gintLoginAttempts = 3;
+    dialog().optSearch->setChecked(true);
+    hostScript.answerFileDialog(found);
+    dialog().cmdOK->click();
+
+    EXPECT_EQ(registryFileName(), QStringLiteral("Found.mdb"));
+    EXPECT_EQ(registryPath(), QFileInfo(found).absolutePath());
+    EXPECT_EQ(gstrPriorDbFile, QStringLiteral("Missing.mdb"));
+    EXPECT_EQ(gintLoginAttempts, 0);
+    EXPECT_EQ(Forms::find<frmDatabase>(), nullptr);
+    frmLogin* login = Forms::find<frmLogin>();
+    ASSERT_NE(login, nullptr);
+    EXPECT_TRUE(login->isVisible());
+    EXPECT_EQ(login->Caption(), QStringLiteral("Login To Database You Selected"));
+}
+
+TEST_F(DatabaseDialog, NewDatabaseRefusesANameOfAnotherKind) {
+    hostScript.answerFileDialog(libraryPath(QStringLiteral("data.txt")));
+    hostScript.expectMsgBox(QStringLiteral("You can only enter an access database (.mdb)."));
+    dialog().cmdOK->click();
+
+    EXPECT_EQ(hostScript.lastFileDialog().title,
+              QStringLiteral("Please select path and enter new database name."));
+    EXPECT_TRUE(hostScript.lastFileDialog().forSave);
+    EXPECT_EQ(hostScript.msgBoxes().last().title, QStringLiteral("Database?"));
+    EXPECT_EQ(registryFileName(), QStringLiteral("Missing.mdb"));
+    EXPECT_FALSE(QFileInfo::exists(libraryPath(QStringLiteral("data.txt"))));
+    EXPECT_NE(Forms::find<frmDatabase>(), nullptr);
+}
+
+TEST_F(DatabaseDialog, NewDatabaseWithoutExtensionIsMadeAsMdbWithItsFirstUser) {
+    const QString path = libraryPath(QStringLiteral("data"));
+    hostScript.answerFileDialog(path);
+    hostScript.expectMsgBox(QStringLiteral("Please add the first user"));
+    bool addModeOnShow = false;
+    hostScript.onModal<frmUser>(QStringLiteral("frmUser"), [&](frmUser& user) {
+        addModeOnShow = user.Mode() == frmUser::ModeAdd;
+        makeFirstUser(user, QStringLiteral("ada"), QStringLiteral("secret"));
+    });
+    dialog().cmdOK->click();
+
+    EXPECT_TRUE(addModeOnShow);
+    EXPECT_TRUE(QFileInfo::exists(path + QStringLiteral(".mdb")));
+    EXPECT_EQ(registryFileName(), QStringLiteral("data.mdb"));
+    EXPECT_TRUE(gblnFirstUser);
+    EXPECT_TRUE(canLogIn(QStringLiteral("ada"), QStringLiteral("secret")));
+    EXPECT_EQ(Forms::find<frmDatabase>(), nullptr);
+    frmLogin* login = Forms::find<frmLogin>();
+    ASSERT_NE(login, nullptr);
+    EXPECT_EQ(login->Caption(), QStringLiteral("Login To Database You Selected"));
+    EXPECT_EQ(
+        windowOrder(),
+        QStringList({QStringLiteral("FileSave: Please select path and enter new database name."),
+                     QStringLiteral("MsgBox: Please add the first user"),
+                     QStringLiteral("Modal: frmUser")}));
+}
+
+TEST_F(DatabaseDialog, UpperCaseMdbNamePassesUnchanged) {
+    const QString path = libraryPath(QStringLiteral("DATA.MDB"));
+    hostScript.answerFileDialog(path);
+    hostScript.expectMsgBox(QStringLiteral("Please add the first user"));
+    hostScript.onModal<frmUser>(QStringLiteral("frmUser"), [](frmUser& user) {
+        makeFirstUser(user, QStringLiteral("ada"), QStringLiteral("secret"));
+    });
+    dialog().cmdOK->click();
+    EXPECT_EQ(registryFileName(), QStringLiteral("DATA.MDB"));
+    EXPECT_TRUE(QFileInfo::exists(path));
+}
+
+TEST_F(DatabaseDialog, NewDatabaseOnAnExistingFileIsRefusedThoughTheRegistryNamesIt) {
+    const QString existing = makeLibrary(QStringLiteral("Existing.mdb"));
+    pointDatabaseAt(missing);
+    hostScript.answerFileDialog(existing);
+    hostScript.expectMsgBox(
+        QStringLiteral("You can only enter an access database that does not already exist"));
+    dialog().cmdOK->click();
+
+    EXPECT_EQ(registryFileName(), QStringLiteral("Existing.mdb"));
+    EXPECT_TRUE(hostScript.callsOf(QStringLiteral("Modal")).isEmpty());
+    EXPECT_NE(Forms::find<frmDatabase>(), nullptr);
+    EXPECT_EQ(hostScript.mousePointer(), vbDefault);
+}
+
+TEST_F(DatabaseDialog, LeavingTheFirstUserFormWithoutAUserEndsTheProgram) {
+    hostScript.answerFileDialog(libraryPath(QStringLiteral("Fresh.mdb")));
+    hostScript.expectMsgBox(QStringLiteral("Please add the first user"));
+    hostScript.onModal<frmUser>(QStringLiteral("frmUser"), [this](frmUser& user) {
+        hostScript.expectMsgBox(QStringLiteral("There are no users in the database."));
+        hostScript.expectMsgBox(QStringLiteral("Exiting without entering an employee"), vbYes);
+        user.cmdExit_Click();
+    });
+    EXPECT_TRUE(hostScript.runToEnd([this] { dialog().cmdOK_Click(); }));
+    EXPECT_TRUE(gblnFirstUserCancelled);
+    EXPECT_EQ(Forms::find<frmLogin>(), nullptr);
+}
+
+TEST_F(DatabaseDialog, CancelAnsweredNoKeepsTheDialog) {
+    hostScript.expectMsgBox(QStringLiteral("Exiting without finding or creating a new database "
+                                           "\r\nwill cause the program to exit completely."
+                                           "\r\n\r\nDo you wish to continue?"),
+                            vbNo);
+    dialog().cmdCancel->click();
+    EXPECT_EQ(hostScript.msgBoxes().last().flags, vbYesNo | vbQuestion);
+    EXPECT_FALSE(hostScript.ended());
+    EXPECT_NE(Forms::find<frmDatabase>(), nullptr);
+}
+
+TEST_F(DatabaseDialog, CancelAnsweredYesEndsTheProgram) {
+    hostScript.expectMsgBox(QStringLiteral("Do you wish to continue?"), vbYes);
+    EXPECT_TRUE(hostScript.runToEnd([this] { dialog().cmdExit_Click(); }));
+    EXPECT_EQ(Forms::count(), 0);
+}
+
+TEST_F(DatabaseDialog, HelpOpensItsTopic) {
+    SaveRegSetting(QString::fromLatin1(REG_KEY_HELPFILES), QStringLiteral("FilePath"),
+                   home->file(QStringLiteral("Help")));
+    dialog().cmdHelp->click();
+    const QList<HostCall> help = hostScript.callsOf(QStringLiteral("Help"));
+    ASSERT_EQ(help.size(), 1);
+    EXPECT_EQ(help.first().text, QStringLiteral("1550"));
+    EXPECT_EQ(help.first().flags, 1);
+}
+
+} // namespace
