@@ -329,6 +329,12 @@ void TreeView::setLabelEdit(int mode) {
 }
 
 void TreeView::StartLabelEdit() {
+    // Called from AfterLabelEdit to edit again: that waits until the closing edit is over.
+    if (mInAfterLabelEdit || state() == QAbstractItemView::EditingState) {
+        QMetaObject::invokeMethod(
+            this, [this] { StartLabelEdit(); }, Qt::QueuedConnection);
+        return;
+    }
     if (QTreeWidgetItem* item = currentItem())
         edit(indexFromItem(item), QAbstractItemView::AllEditTriggers, nullptr);
 }
@@ -361,8 +367,15 @@ bool TreeView::beginLabelEdit() {
 
 bool TreeView::finishLabelEdit(QTreeWidgetItem* item, const QString& newText) {
     bool cancel = false;
-    if (AfterLabelEdit)
-        AfterLabelEdit(cancel, newText);
+    mInAfterLabelEdit = true;
+    try {
+        if (AfterLabelEdit)
+            AfterLabelEdit(cancel, newText);
+    } catch (...) {
+        mInAfterLabelEdit = false;
+        throw;
+    }
+    mInAfterLabelEdit = false;
     // The handler may have cleared the tree.
     if (!cancel && dataOf(item) && dataOf(item)->item == item)
         item->setText(0, newText);

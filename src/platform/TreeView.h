@@ -43,7 +43,8 @@ public:
     // StartLabelEdit does.
     int LabelEdit() const { return mLabelEdit; }
     void setLabelEdit(int mode);
-    // Starts editing the selected node's text (BeforeLabelEdit may cancel).
+    // Starts editing the selected node's text (BeforeLabelEdit may cancel).  Called from
+    // AfterLabelEdit, it starts once the closing edit is over.
     void StartLabelEdit();
     // Runs a label edit of `node` to its end with `newText`, as a person typing and pressing
     // Enter does: BeforeLabelEdit, then AfterLabelEdit; the text changes unless either cancels.
@@ -124,6 +125,7 @@ private:
     bool mSorted = false;
     int mLabelEdit = tvwAutomatic;
     bool mEditing = false;
+    bool mInAfterLabelEdit = false;
     int mEditLimit = 0;
     bool mTrackSelect = false;
     bool mRedraw = true;

@@ -427,6 +427,28 @@ TEST_F(TreeViewTest, EditorCommitRunsAfterLabelEdit) {
     EXPECT_FALSE(tree.IsLabelEditing());
 }
 
+TEST_F(TreeViewTest, EditStartedAgainFromAfterLabelEditOpensOnceTheOldOneCloses) {
+    Node a = tree.Nodes.Add("ROOT", tvwChild, "A", "old");
+    root.setExpanded(true);
+    tree.resize(200, 200);
+    tree.show();
+    int before = 0;
+    tree.BeforeLabelEdit = [&](bool&) { ++before; };
+    tree.AfterLabelEdit = [&](bool& cancel, const QString& s) {
+        if (s.isEmpty()) {
+            cancel = true;
+            tree.StartLabelEdit();
+        }
+    };
+    EXPECT_FALSE(tree.PerformLabelEdit(a, ""));
+    EXPECT_FALSE(tree.IsLabelEditing());
+    QApplication::processEvents();
+    EXPECT_EQ(before, 2);
+    EXPECT_TRUE(tree.IsLabelEditing());
+    ASSERT_NE(tree.viewport()->findChild<QLineEdit*>(), nullptr);
+    EXPECT_EQ(a.Text(), "old");
+}
+
 TEST_F(TreeViewTest, ManualLabelEditStartsOnlyFromCode) {
     Node a = tree.Nodes.Add("ROOT", tvwChild, "A", "old");
     tree.setLabelEdit(tvwManual);
