@@ -67,6 +67,6 @@ function(qs_add_test_folder folder)
         PROPERTIES
             LABELS ${folder}
             TIMEOUT 300
-            ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QS_SOURCE_DIR=${PROJECT_SOURCE_DIR}"
+            ENVIRONMENT QT_QPA_PLATFORM=offscreen
         )
 endfunction()

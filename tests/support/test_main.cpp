@@ -8,6 +8,8 @@ int main(int argc, char** argv) {
     // platform is chosen here when nothing chose it.
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (qEnvironmentVariableIsEmpty("QS_SOURCE_DIR"))
+        qputenv("QS_SOURCE_DIR", QS_SOURCE_DIR_DEFAULT);
     // Nothing of the person running the tests is touched: every folder the program uses lies
     // under a private temporary home for the whole run; fixtures make a fresh one per test.
     qs::test::TestHome processHome;
