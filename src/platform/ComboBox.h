@@ -17,6 +17,8 @@ class ComboBox : public QComboBox {
 public:
     explicit ComboBox(const QString& name, QWidget* parent = nullptr,
                       int style = vbComboDropdownList);
+    // The event members go before the base widget, which may still signal while it dies.
+    ~ComboBox() override { blockSignals(true); }
 
     QString Name() const { return objectName(); }
     int Style() const { return mStyle; }

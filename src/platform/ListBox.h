@@ -11,6 +11,8 @@ class ListBox : public QListWidget {
     Q_OBJECT
 public:
     explicit ListBox(const QString& name, QWidget* parent = nullptr);
+    // The event members go before the base widget, which may still signal while it dies.
+    ~ListBox() override { blockSignals(true); }
 
     QString Name() const { return objectName(); }
 

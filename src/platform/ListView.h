@@ -19,6 +19,8 @@ class ListView : public QTreeWidget {
     Q_OBJECT
 public:
     explicit ListView(const QString& name, QWidget* parent = nullptr);
+    // The event members go before the base widget, which may still signal while it dies.
+    ~ListView() override { blockSignals(true); }
 
     ListViewColumns ColumnHeaders;
     ListViewItems ListItems;

@@ -14,6 +14,8 @@ class RichTextBox : public QTextEdit {
     Q_OBJECT
 public:
     explicit RichTextBox(const QString& name, QWidget* parent = nullptr);
+    // The event members go before the base widget, which may still signal while it dies.
+    ~RichTextBox() override { blockSignals(true); }
 
     QString Name() const { return objectName(); }
 

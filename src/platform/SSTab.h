@@ -11,6 +11,8 @@ class SSTab : public QTabWidget {
     Q_OBJECT
 public:
     explicit SSTab(const QString& name, QWidget* parent = nullptr);
+    // The event members go before the base widget, which may still signal while it dies.
+    ~SSTab() override { blockSignals(true); }
 
     QString Name() const { return objectName(); }
 

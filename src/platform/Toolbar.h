@@ -15,6 +15,8 @@ class Toolbar : public QToolBar {
     Q_OBJECT
 public:
     explicit Toolbar(const QString& name, QWidget* parent = nullptr);
+    // The event members go before the base widget, which may still signal while it dies.
+    ~Toolbar() override { blockSignals(true); }
 
     ToolbarButtons Buttons;
 

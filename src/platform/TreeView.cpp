@@ -91,6 +91,9 @@ TreeView::TreeView(const QString& name, QWidget* parent) : QTreeWidget(parent), 
 }
 
 TreeView::~TreeView() {
+    // The event members go before the base widget, which may still signal while it dies.
+    blockSignals(true);
+    itemDelegate()->disconnect(this);
     // Handles held elsewhere must see the nodes as removed.
     for (const auto& n : Nodes.mNodes) {
         n->tree = nullptr;
