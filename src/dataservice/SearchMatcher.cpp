@@ -18,13 +18,6 @@ char32_t codePointAt(const QString& text, int index) {
     return c.unicode();
 }
 
-char32_t codePointBefore(const QString& text, int index) {
-    const QChar c = text.at(index - 1);
-    if (c.isLowSurrogate() && index >= 2 && text.at(index - 2).isHighSurrogate())
-        return QChar::surrogateToUcs4(text.at(index - 2), c);
-    return c.unicode();
-}
-
 } // namespace
 
 SearchMatcher::SearchMatcher(int matchMode, const QString& text, TokenCharacters& tokens)
@@ -55,7 +48,7 @@ SearchMatcher::SearchMatcher(int matchMode, const QString& text, TokenCharacters
 SearchMatcher::Piece SearchMatcher::makePiece(const QString& text, TokenCharacters& tokens) {
     Piece piece;
     piece.text = text;
-    piece.needsWordStart = tokens.isTokenChar(codePointAt(text, 0));
+    piece.needsWordStart = tokens.kind(codePointAt(text, 0)) == TokenCharacters::Kind::Word;
     bool allLettersOrDigits = true;
     bool leadHasLetterOrDigit = false;
     int leadLength = 0;
@@ -87,7 +80,7 @@ bool SearchMatcher::pieceMatches(const Piece& piece, const QString& field) const
         const int at = field.indexOf(piece.text, from, Qt::CaseInsensitive);
         if (at < 0)
             return false;
-        if (!piece.needsWordStart || at == 0 || !mTokens.isTokenChar(codePointBefore(field, at)))
+        if (!piece.needsWordStart || mTokens.boundaryBefore(field, at))
             return true;
         from = at + 1;
     }

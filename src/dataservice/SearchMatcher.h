@@ -17,10 +17,10 @@ class TokenCharacters;
 //
 // When a piece matches a field.  The piece occurs in the field, compared case-insensitively
 // (Qt::CaseInsensitive, character by character), at the start of a word: either the piece
-// begins with a character that is not a word character, or the occurrence begins the field or
-// follows a character that is not a word character.  Word characters are those the index's
-// tokenizer keeps inside a word (TokenCharacters): "reg" finds "Registry" and "(reg", never
-// "GetReg"; "%" and "_" are ordinary characters and find themselves anywhere.
+// begins with a character that is not a word character, or no word runs on into the
+// occurrence from the left.  Words are those of the index's tokenizer (TokenCharacters): "reg"
+// finds "Registry" and "(reg", never "GetReg"; "%" and "_" are ordinary characters and find
+// themselves anywhere.
 //
 // When a row matches.  Mode 0 and 1: some piece matches some field.  Mode 2: every piece
 // matches some field (not necessarily the same one).

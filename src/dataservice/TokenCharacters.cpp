@@ -65,32 +65,67 @@ void TokenCharacters::open(const QString& source) {
     mSource = source;
 }
 
-bool TokenCharacters::isTokenChar(char32_t c) {
+TokenCharacters::Kind TokenCharacters::kind(char32_t c) {
     if (c < 0x80)
-        return (c >= '0' && c <= '9') || (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
+        return (c >= '0' && c <= '9') || (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z')
+                   ? Kind::Word
+                   : Kind::Separator;
     const auto known = mKnown.constFind(c);
     if (known != mKnown.constEnd())
         return *known;
-    const bool token = probe(c);
-    mKnown.insert(c, token);
-    return token;
+    const Kind found = probe(c);
+    mKnown.insert(c, found);
+    return found;
 }
 
-// "x", c, "x" is one word when c is a word character and two words "x" otherwise.
-bool TokenCharacters::probe(char32_t c) {
+bool TokenCharacters::boundaryBefore(const QString& text, int index) {
+    while (index > 0) {
+        char32_t c = text.at(index - 1).unicode();
+        int width = 1;
+        if (text.at(index - 1).isLowSurrogate() && index >= 2 &&
+            text.at(index - 2).isHighSurrogate()) {
+            c = QChar::surrogateToUcs4(text.at(index - 2), text.at(index - 1));
+            width = 2;
+        }
+        switch (kind(c)) {
+        case Kind::Separator:
+            return true;
+        case Kind::Word:
+            return false;
+        case Kind::Mark:
+            index -= width;
+            break;
+        }
+    }
+    return true;
+}
+
+// Row 1 "x", c, "x" is one word when c continues a word; row 2 c, "x" holds the word "x" alone
+// when c does not begin one.
+TokenCharacters::Kind TokenCharacters::probe(char32_t c) {
+    const QString character = QString::fromUcs4(&c, 1);
     QSqlDatabase db = QSqlDatabase::database(mConnectionName, false);
     QSqlQuery query(db);
     query.setForwardOnly(true);
     bool ok = query.exec(QStringLiteral("DELETE FROM Probe"));
-    ok = ok && query.prepare(QStringLiteral("INSERT INTO Probe (x) VALUES (?)"));
+    ok = ok && query.prepare(QStringLiteral("INSERT INTO Probe (rowid, x) VALUES (1, ?), (2, ?)"));
     if (ok) {
-        query.addBindValue(QLatin1Char('x') + QString::fromUcs4(&c, 1) + QLatin1Char('x'));
+        query.addBindValue(QLatin1Char('x') + character + QLatin1Char('x'));
+        query.addBindValue(character + QLatin1Char('x'));
         ok = query.exec();
     }
-    ok = ok && query.exec(QStringLiteral("SELECT count(*) FROM Probe WHERE Probe MATCH 'x'"));
-    if (!ok || !query.next())
+    ok = ok && query.exec(QStringLiteral("SELECT rowid FROM Probe WHERE Probe MATCH 'x'"));
+    if (!ok)
         RaiseServiceError(kErrStorage, mSource, query.lastError().text());
-    return query.value(0).toInt() == 0;
+    bool splitsInside = false;
+    bool beginsNothing = false;
+    while (query.next()) {
+        splitsInside = splitsInside || query.value(0).toInt() == 1;
+        beginsNothing = beginsNothing || query.value(0).toInt() == 2;
+    }
+    if (splitsInside)
+        return Kind::Separator;
+    return beginsNothing ? Kind::Mark : Kind::Word;
 }
 
 } // namespace qs

@@ -10,7 +10,8 @@ namespace qs {
 // the answer is learnt from SQLite itself, through a small in-memory table made with the same
 // tokenizer arguments, and remembered for the life of the process.  So the scan of the search
 // and the index never disagree on where a word starts, whatever the Unicode tables of Qt and
-// SQLite say.
+// SQLite say.  Combining marks are the subtle case: the tokenizer lets a mark run on a word
+// that has begun but never begins one with it.
 class TokenCharacters {
 public:
     // The one instance for these tokenizer arguments (as in the index's CREATE statement,
@@ -22,7 +23,16 @@ public:
     // FTS5 default "unicode61" when it names none.
     static QString tokenizerOf(const QString& createStatement);
 
-    bool isTokenChar(char32_t c);
+    enum class Kind {
+        Separator, // between words
+        Word,      // begins or continues a word
+        Mark       // continues a word that has begun, else separates
+    };
+    Kind kind(char32_t c);
+    // True when no word of the tokenizer runs on across this position of the text from the
+    // left: the position begins the text, follows a separator, or follows marks that follow a
+    // separator or the beginning.
+    bool boundaryBefore(const QString& text, int index);
 
     TokenCharacters(const TokenCharacters&) = delete;
     TokenCharacters& operator=(const TokenCharacters&) = delete;
@@ -30,12 +40,12 @@ public:
 private:
     TokenCharacters(const QString& tokenize, const QString& connectionName);
     void open(const QString& source);
-    bool probe(char32_t c);
+    Kind probe(char32_t c);
 
     QString mTokenize;
     QString mConnectionName;
     QString mSource;
-    QHash<char32_t, bool> mKnown;
+    QHash<char32_t, Kind> mKnown;
 };
 
 } // namespace qs

@@ -1,0 +1,499 @@
+#include "SearchMatcher.h"
+#include "TestHome.h"
+#include "TokenCharacters.h"
+#include "cLibraryService.h"
+#include "cSourceCode.h"
+#include "cSourceFile.h"
+
+#include <QRandomGenerator>
+#include <QSet>
+#include <algorithm>
+#include <gtest/gtest.h>
+#include <memory>
+
+namespace qs {
+namespace {
+
+struct Item {
+    int id = 0;
+    int categoryId = 1;
+    int codeTypeId = 201;
+    int tested = 1;
+    bool isFolder = false;
+    QString description, code, notes, example;
+};
+
+class SearchTest : public ::testing::Test {
+protected:
+    void SetUp() override {
+        home = std::make_unique<test::TestHome>();
+        path = home->file(QStringLiteral("Search.mdb"));
+        cLibraryService(path).CreateDatabase(path, QString());
+        secondCategory = cLibraryService(path).AddCategory(QStringLiteral("Second"));
+    }
+
+    int save(Item& item) {
+        cSourceCode record(path);
+        record.BeginEdit(0);
+        record.CategoryId(item.categoryId);
+        record.CodeTypeId(item.codeTypeId);
+        record.Tested(item.tested);
+        record.IsFolder(item.isFolder);
+        record.Description(item.description);
+        record.Code(item.code);
+        record.Notes(item.notes);
+        record.Example(item.example);
+        item.id = record.Save();
+        items.append(item);
+        return item.id;
+    }
+    int add(const QString& description, const QString& code = QString(),
+            const QString& notes = QString(), const QString& example = QString()) {
+        Item item;
+        item.description = description;
+        item.code = code;
+        item.notes = notes;
+        item.example = example;
+        return save(item);
+    }
+
+    QList<int> ids(int mode, const QString& text, int categoryId = 0, int status = 0,
+                   int typeId = 0) {
+        const VbArray<ItemRow> rows =
+            cLibraryService(path).Search(mode, text, categoryId, status, typeId, 0, 0);
+        QList<int> found;
+        for (const ItemRow& row : rows)
+            found << row.Id;
+        return found;
+    }
+
+    std::unique_ptr<test::TestHome> home;
+    QString path;
+    int secondCategory = 0;
+    QVector<Item> items;
+};
+
+// --- the reference: the rule written out plainly, position by position ---------------------
+
+// How the index's tokenizer treats the characters the generated texts use: 1 a word
+// character, 0 a separator, 2 a combining mark, which runs on a begun word and else separates.
+int referenceKind(char32_t c) {
+    if (c < 0x80)
+        return (c >= '0' && c <= '9') || (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') ? 1 : 0;
+    if (c == 0x0301)
+        return 2;
+    static const QSet<char32_t> separators{0x00A0, 0x2019, 0x201C, 0x201D, 0x2014, 0x1F600, 0xFFFD};
+    return separators.contains(c) ? 0 : 1;
+}
+
+QVector<char32_t> codePoints(const QString& text) {
+    QVector<char32_t> points;
+    for (const char32_t c : text.toUcs4())
+        points << c;
+    return points;
+}
+
+bool referencePieceMatches(const QString& piece, const QString& field) {
+    const QVector<char32_t> p = codePoints(piece);
+    const QVector<char32_t> f = codePoints(field);
+    for (int i = 0; i + p.size() <= f.size(); ++i) {
+        const QVector<char32_t> slice = f.mid(i, p.size());
+        const QString candidate = QString::fromUcs4(slice.constData(), slice.size());
+        if (candidate.compare(piece, Qt::CaseInsensitive) != 0)
+            continue;
+        int before = i - 1;
+        while (before >= 0 && referenceKind(f.at(before)) == 2)
+            --before;
+        if (referenceKind(p.first()) != 1 || before < 0 || referenceKind(f.at(before)) == 0)
+            return true;
+    }
+    return false;
+}
+
+QList<int> referenceSearch(const QVector<Item>& items, int mode, const QString& text,
+                           int categoryId, int status, int typeId) {
+    QStringList pieces;
+    if (mode == 0) {
+        if (!text.trimmed().isEmpty())
+            pieces << text.trimmed();
+    } else {
+        QString word;
+        for (const QChar c : text + QLatin1Char(' ')) {
+            if (!c.isSpace()) {
+                word += c;
+            } else if (!word.isEmpty()) {
+                pieces << word;
+                word.clear();
+            }
+        }
+    }
+    QList<int> found;
+    for (const Item& item : items) {
+        if ((categoryId && item.categoryId != categoryId) || (status && item.tested != status) ||
+            (typeId && item.codeTypeId != typeId) || pieces.isEmpty())
+            continue;
+        int matched = 0;
+        for (const QString& piece : pieces) {
+            for (const QString& field : {item.description, item.code, item.notes, item.example}) {
+                if (referencePieceMatches(piece, field)) {
+                    ++matched;
+                    break;
+                }
+            }
+        }
+        if (mode == 2 ? matched == pieces.size() : matched > 0)
+            found << item.id;
+    }
+    std::sort(found.begin(), found.end());
+    return found;
+}
+
+// --- modes --------------------------------------------------------------------------------
+
+TEST_F(SearchTest, ExactPhraseNeedsTheWordsTogetherInThatOrder) {
+    const int together = add(QStringLiteral("Read the registry key"));
+    add(QStringLiteral("key of the registry"));
+    add(QStringLiteral("registry  key"));
+    EXPECT_EQ(ids(0, QStringLiteral("Registry Key")), QList<int>{together});
+    EXPECT_EQ(ids(0, QStringLiteral("  registry key  ")), QList<int>{together});
+}
+
+TEST_F(SearchTest, AnyWordFindsRowsWithOneOfTheWords) {
+    const int a = add(QStringLiteral("alpha"));
+    const int b = add(QString(), QStringLiteral("beta"));
+    add(QStringLiteral("gamma"));
+    EXPECT_EQ(ids(1, QStringLiteral("alpha beta")), (QList<int>{a, b}));
+}
+
+TEST_F(SearchTest, AllWordsMayComeFromDifferentFields) {
+    const int both = add(QStringLiteral("alpha"), QString(), QString(), QStringLiteral("beta"));
+    add(QStringLiteral("alpha only"));
+    EXPECT_EQ(ids(2, QStringLiteral("beta alpha")), QList<int>{both});
+    EXPECT_EQ(ids(2, QStringLiteral("alpha")), (QList<int>{both, both + 1}));
+}
+
+TEST_F(SearchTest, EveryTextFieldIsSearched) {
+    const int d = add(QStringLiteral("needle"));
+    const int c = add(QString(), QStringLiteral("x = needle"));
+    const int n = add(QString(), QString(), QStringLiteral("see needle"));
+    const int e = add(QString(), QString(), QString(), QStringLiteral("needle()"));
+    EXPECT_EQ(ids(1, QStringLiteral("NEEDLE")), (QList<int>{d, c, n, e}));
+}
+
+TEST_F(SearchTest, AnUnknownMatchModeIsRefused) {
+    EXPECT_THROW(ids(3, QStringLiteral("x")), QsError);
+    EXPECT_THROW(ids(-1, QStringLiteral("x")), QsError);
+}
+
+// --- what matches ---------------------------------------------------------------------------
+
+TEST_F(SearchTest, AWordMatchesAtTheStartOfAWordOnly) {
+    const int registry = add(QStringLiteral("Registry"));
+    const int call = add(QString(), QStringLiteral("x = (reg)"));
+    add(QString(), QStringLiteral("GetRegValue"));
+    EXPECT_EQ(ids(1, QStringLiteral("reg")), (QList<int>{registry, call}));
+    EXPECT_EQ(ids(1, QStringLiteral("egistry")), QList<int>{});
+}
+
+TEST_F(SearchTest, OneLetterFindsWordsBeginningWithIt) {
+    const int x = add(QStringLiteral("x marks"));
+    const int xml = add(QStringLiteral("Xml writer"));
+    add(QStringLiteral("box"));
+    EXPECT_EQ(ids(1, QStringLiteral("x")), (QList<int>{x, xml}));
+}
+
+TEST_F(SearchTest, PunctuationStartingAPieceMatchesAnywhere) {
+    const int percent = add(QStringLiteral("50% done"));
+    const int under = add(QString(), QStringLiteral("my_var = 1"));
+    const int slash = add(QString(), QStringLiteral("C:\\Temp\\x"));
+    add(QStringLiteral("plain"));
+    EXPECT_EQ(ids(1, QStringLiteral("%")), QList<int>{percent});
+    EXPECT_EQ(ids(1, QStringLiteral("_")), QList<int>{under});
+    EXPECT_EQ(ids(1, QStringLiteral("\\temp\\")), QList<int>{slash});
+    EXPECT_EQ(ids(1, QStringLiteral("_var")), QList<int>{under});
+}
+
+TEST_F(SearchTest, PercentAndUnderscoreAreNotWildcards) {
+    add(QStringLiteral("abc"));
+    add(QStringLiteral("a c"));
+    EXPECT_EQ(ids(0, QStringLiteral("a%c")), QList<int>{});
+    EXPECT_EQ(ids(0, QStringLiteral("a_c")), QList<int>{});
+}
+
+TEST_F(SearchTest, PunctuationInsideAWordMustBeThere) {
+    const int dotted = add(QString(), QStringLiteral("Call foo.bar(1)"));
+    add(QString(), QStringLiteral("foo bar"));
+    add(QString(), QStringLiteral("foo-bar"));
+    EXPECT_EQ(ids(1, QStringLiteral("foo.bar")), QList<int>{dotted});
+    EXPECT_EQ(ids(0, QStringLiteral("foo.bar(1)")), QList<int>{dotted});
+}
+
+TEST_F(SearchTest, QuotesAndSqlLookingTextAreSearchedAsText) {
+    const int quoted = add(QString(), QStringLiteral("MsgBox \"Don't\""));
+    const int sql = add(QString(), QStringLiteral("x = \"'; DROP TABLE SourceCode; --\""));
+    const int fts = add(QStringLiteral("NEAR(a b) OR c*"));
+    EXPECT_EQ(ids(0, QStringLiteral("\"Don't\"")), QList<int>{quoted});
+    EXPECT_EQ(ids(0, QStringLiteral("'; DROP TABLE SourceCode; --")), QList<int>{sql});
+    EXPECT_EQ(ids(0, QStringLiteral("NEAR(a b) OR c*")), QList<int>{fts});
+    EXPECT_EQ(ids(1, QStringLiteral("\" ' ; --")), (QList<int>{quoted, sql}));
+    EXPECT_EQ(ids(1, QStringLiteral("OR")), QList<int>{fts});
+    EXPECT_EQ(cLibraryService(path).GetSourceCode(sql).Code(),
+              QStringLiteral("x = \"'; DROP TABLE SourceCode; --\""));
+}
+
+TEST_F(SearchTest, NonAsciiLettersCompareWithoutCase) {
+    const int umlaut = add(QStringLiteral("Ärger über Größe"));
+    const int greek = add(QString(), QStringLiteral("ΣΟΦΊΑ"));
+    add(QStringLiteral("Arger uber"));
+    EXPECT_EQ(ids(1, QStringLiteral("ärger")), QList<int>{umlaut});
+    EXPECT_EQ(ids(0, QStringLiteral("ÜBER GRÖSSE")), QList<int>{});
+    EXPECT_EQ(ids(0, QStringLiteral("ÜBER GRÖßE")), QList<int>{umlaut});
+    EXPECT_EQ(ids(1, QStringLiteral("σοφ")), QList<int>{greek});
+    EXPECT_EQ(ids(1, QStringLiteral("röße")), QList<int>{});
+}
+
+TEST_F(SearchTest, KelvinSignAndLongSAreTheirAsciiLetters) {
+    const int kelvin = add(QString::fromUtf8("\u212Aelvin"));
+    const int longS = add(QString::fromUtf8("\u017Ftring"));
+    EXPECT_EQ(ids(1, QStringLiteral("kelvin")), QList<int>{kelvin});
+    EXPECT_EQ(ids(1, QStringLiteral("STRING")), QList<int>{longS});
+}
+
+TEST_F(SearchTest, WordStartsFollowTheIndexTokenizerOutsideAscii) {
+    // A private-use character is a word character to the tokenizer; a curly quote and a
+    // no-break space are not.
+    add(QString::fromUtf8("\uE000value"));
+    const int quoted = add(QString::fromUtf8("\u201Cvalue\u201D"));
+    const int spaced = add(QString::fromUtf8("a\u00A0value"));
+    EXPECT_EQ(ids(1, QStringLiteral("value")), (QList<int>{quoted, spaced}));
+    EXPECT_EQ(ids(1, QStringLiteral("valué")), QList<int>{});
+}
+
+TEST_F(SearchTest, AnEmptyOrBlankSearchFindsNothing) {
+    add(QStringLiteral("anything"));
+    for (int mode = 0; mode <= 2; ++mode) {
+        for (const QString& text : {QString(), QStringLiteral("   "), QStringLiteral("\t\r\n")}) {
+            const VbArray<ItemRow> rows = cLibraryService(path).Search(mode, text, 0, 0, 0);
+            EXPECT_EQ(rows.LBound(), 0);
+            EXPECT_EQ(rows.UBound(), 0);
+        }
+    }
+}
+
+TEST_F(SearchTest, EmptyWordsBetweenBlanksAreIgnored) {
+    const int both = add(QStringLiteral("alpha beta"));
+    EXPECT_EQ(ids(2, QStringLiteral("  alpha    beta  ")), QList<int>{both});
+    EXPECT_EQ(ids(1, QStringLiteral("\talpha\r\n")), QList<int>{both});
+}
+
+// --- filters, folders and stored files ------------------------------------------------------
+
+TEST_F(SearchTest, FiltersNarrowByCategoryStatusAndTypeAndZeroFiltersNothing) {
+    Item a{0, 1, 201, 1, false, QStringLiteral("shared word"), {}, {}, {}};
+    Item b{0, secondCategory, 201, 1, false, QStringLiteral("shared word"), {}, {}, {}};
+    Item c{0, 1, 202, 2, false, QStringLiteral("shared word"), {}, {}, {}};
+    save(a);
+    save(b);
+    save(c);
+    EXPECT_EQ(ids(1, QStringLiteral("shared"), 0, 0, 0), (QList<int>{a.id, b.id, c.id}));
+    EXPECT_EQ(ids(1, QStringLiteral("shared"), secondCategory), QList<int>{b.id});
+    EXPECT_EQ(ids(1, QStringLiteral("shared"), 0, 2), QList<int>{c.id});
+    EXPECT_EQ(ids(1, QStringLiteral("shared"), 0, 1, 201), (QList<int>{a.id, b.id}));
+    EXPECT_EQ(ids(2, QStringLiteral("shared word"), 1, 1, 201), QList<int>{a.id});
+    EXPECT_EQ(ids(0, QStringLiteral("shared word"), 1, 0, 202), QList<int>{c.id});
+    // The confirmed path keeps the filters too.
+    EXPECT_EQ(ids(0, QStringLiteral("d word"), 0, 0, 0), QList<int>{});
+    EXPECT_EQ(ids(1, QStringLiteral("w%rd word"), secondCategory), QList<int>{b.id});
+}
+
+TEST_F(SearchTest, MatchingFoldersComeBackMarkedAsFolders) {
+    Item folder{0, 1, 201, 1, true, QStringLiteral("Registry helpers"), {}, {}, {}};
+    save(folder);
+    Item child{0, 1, 201, 1, false, QStringLiteral("Read a registry value"), {}, {}, {}};
+    save(child);
+    const VbArray<ItemRow> rows =
+        cLibraryService(path).Search(1, QStringLiteral("registry"), 0, 0, 0);
+    ASSERT_EQ(rows.UBound(), 2);
+    EXPECT_EQ(rows(1).Id, folder.id);
+    EXPECT_TRUE(rows(1).IsFolder);
+    EXPECT_EQ(rows(1).TypeId, 201);
+    EXPECT_EQ(rows(2).Id, child.id);
+    EXPECT_FALSE(rows(2).IsFolder);
+    EXPECT_EQ(rows(2).Tested, 1);
+    EXPECT_EQ(rows(2).Description, QStringLiteral("Read a registry value"));
+}
+
+TEST_F(SearchTest, StoredFilesAreSearchedByDescriptionAndNotes) {
+    add(QStringLiteral("winsock snippet"));
+    cSourceFile file(path);
+    file.BeginEdit(0);
+    file.CategoryId(1);
+    file.FileTypeId(101);
+    file.IsFolder(false);
+    file.Description(QStringLiteral("Article"));
+    file.Notes(QStringLiteral("All about Winsock"));
+    const int fileId = file.Save();
+    const VbArray<ItemRow> rows =
+        cLibraryService(path).Search(0, QStringLiteral("winsock"), 1, 0, 101);
+    ASSERT_EQ(rows.UBound(), 1);
+    EXPECT_EQ(rows(1).Id, fileId);
+    EXPECT_EQ(rows(1).TypeId, 101);
+    EXPECT_EQ(ids(1, QStringLiteral("winsock"), 0, 0, 201).size(), 1);
+    EXPECT_EQ(ids(1, QStringLiteral("winsock"), 0, 0, 0).size(), 2);
+    EXPECT_EQ(ids(1, QStringLiteral("winsock"), 0, 0, 102), QList<int>{});
+}
+
+// --- saves ------------------------------------------------------------------------------------
+
+TEST_F(SearchTest, EverySaveIsSeenByTheNextSearch) {
+    const int id = add(QStringLiteral("first"), QStringLiteral("Dim oldName"));
+    EXPECT_EQ(ids(1, QStringLiteral("oldname")), QList<int>{id});
+
+    cSourceCode record = cLibraryService(path).GetSourceCode(id);
+    record.BeginEdit(0);
+    record.Code(QStringLiteral("Dim newName"));
+    record.Notes(QStringLiteral("renamed %"));
+    record.Save();
+    EXPECT_EQ(ids(1, QStringLiteral("oldname")), QList<int>{});
+    EXPECT_EQ(ids(1, QStringLiteral("newname")), QList<int>{id});
+    EXPECT_EQ(ids(0, QStringLiteral("renamed %")), QList<int>{id});
+
+    record.BeginEdit(0);
+    record.Deleted(true);
+    record.Save();
+    EXPECT_EQ(ids(1, QStringLiteral("newname")), QList<int>{});
+    EXPECT_EQ(ids(0, QStringLiteral("renamed %")), QList<int>{});
+}
+
+// --- the index and the scan agree -------------------------------------------------------------
+
+TEST(SearchTokenizer, WordCharactersAreLearntFromTheIndexTokenizer) {
+    auto& tokens = TokenCharacters::forTokenizer(QStringLiteral("unicode61 remove_diacritics 0"),
+                                                 QStringLiteral("test"));
+    using Kind = TokenCharacters::Kind;
+    EXPECT_EQ(tokens.kind(U'a'), Kind::Word);
+    EXPECT_EQ(tokens.kind(U'_'), Kind::Separator);
+    EXPECT_EQ(tokens.kind(U'\u00E9'), Kind::Word);
+    EXPECT_EQ(tokens.kind(U'\uE000'), Kind::Word);
+    EXPECT_EQ(tokens.kind(U'\U00010400'), Kind::Word);
+    EXPECT_EQ(tokens.kind(U'\u00A0'), Kind::Separator);
+    EXPECT_EQ(tokens.kind(U'\u201C'), Kind::Separator);
+    EXPECT_EQ(tokens.kind(U'\u0301'), Kind::Mark);
+    EXPECT_EQ(tokens.kind(U'\U0001F600'), Kind::Separator);
+    // A mark runs on the word before it, but a mark after a separator begins nothing.
+    EXPECT_FALSE(tokens.boundaryBefore(QStringLiteral("e\u0301value"), 2));
+    EXPECT_TRUE(tokens.boundaryBefore(QStringLiteral(" \u0301value"), 2));
+    EXPECT_TRUE(tokens.boundaryBefore(QStringLiteral("\u0301\u0301value"), 2));
+    EXPECT_FALSE(tokens.boundaryBefore(QStringLiteral("\U00010400value"), 2));
+    EXPECT_TRUE(tokens.boundaryBefore(QStringLiteral("\U0001F600value"), 2));
+    EXPECT_EQ(TokenCharacters::tokenizerOf(
+                  QStringLiteral("CREATE VIRTUAL TABLE t USING fts5 (a, tokenize = 'unicode61 "
+                                 "tokenchars ''-''')")),
+              QStringLiteral("unicode61 tokenchars '-'"));
+    EXPECT_EQ(TokenCharacters::tokenizerOf(QStringLiteral("CREATE VIRTUAL TABLE t USING fts5(a)")),
+              QStringLiteral("unicode61"));
+}
+
+TEST(SearchPieces, OnlyAsciiWordsAreLeftToTheIndexAlone) {
+    auto& tokens = TokenCharacters::forTokenizer(QStringLiteral("unicode61 remove_diacritics 0"),
+                                                 QStringLiteral("test"));
+    const SearchMatcher matcher(1, QStringLiteral("Dim x.y \"q\" größe %"), tokens);
+    ASSERT_EQ(matcher.pieces().size(), 5);
+    EXPECT_TRUE(matcher.pieces()[0].answeredByIndex);
+    EXPECT_EQ(matcher.pieces()[0].indexQuery, QStringLiteral("\"Dim\"*"));
+    EXPECT_FALSE(matcher.pieces()[1].answeredByIndex);
+    EXPECT_EQ(matcher.pieces()[1].indexQuery, QStringLiteral("\"x.y\"*"));
+    EXPECT_EQ(matcher.pieces()[2].indexQuery, QStringLiteral("\"\"\"q\"\"\"*"));
+    EXPECT_EQ(matcher.pieces()[3].indexQuery, QStringLiteral("\"gr\"*"));
+    EXPECT_TRUE(matcher.pieces()[4].indexQuery.isEmpty());
+}
+
+// Texts built from words that meet at every kind of boundary, searched with pieces cut out of
+// them: the service must answer as the plain reference scan does.
+TEST_F(SearchTest, AnswersEqualAPlainScanForGeneratedTextsAndQueries) {
+    const QStringList words{
+        QStringLiteral("reg"),        QStringLiteral("Registry"),    QStringLiteral("GetReg"),
+        QStringLiteral("dim"),        QStringLiteral("DIM"),         QStringLiteral("x"),
+        QStringLiteral("x_1"),        QStringLiteral("foo.bar"),     QStringLiteral("50%"),
+        QStringLiteral("\\path"),     QStringLiteral("'q'"),         QStringLiteral("\"dq\""),
+        QStringLiteral("über"),       QStringLiteral("ÜBER"),        QStringLiteral("naïve"),
+        QStringLiteral("ΣΟΦΊΑ"),      QStringLiteral("σοφίας"),      QStringLiteral("straße"),
+        QStringLiteral("STRAẞE"),     QStringLiteral("ſtring"),      QStringLiteral("string"),
+        QStringLiteral("\u212Aey"),   QStringLiteral("key"),         QStringLiteral("\uE000tag"),
+        QStringLiteral("tag"),        QStringLiteral("\u0378x"),     QStringLiteral("e\u0301t"),
+        QStringLiteral("\U00010400"), QStringLiteral("\U00010428z"), QStringLiteral("\U0001F600ok"),
+        QStringLiteral("OR"),         QStringLiteral("NEAR"),        QStringLiteral("*"),
+        QStringLiteral("a"),          QStringLiteral("1"),           QStringLiteral("--"),
+    };
+    const QStringList glue{
+        QStringLiteral(" "),      QStringLiteral("\r\n"),   QStringLiteral("."),
+        QStringLiteral("("),      QStringLiteral("\u201C"), QStringLiteral("\u00A0"),
+        QStringLiteral("\u2014"), QStringLiteral("_"),      QString(),
+        QStringLiteral("  ")};
+    QRandomGenerator random(20240501);
+    const auto pick = [&](const QStringList& list) {
+        return list.at(int(random.bounded(quint32(list.size()))));
+    };
+    const auto text = [&](int maxWords) {
+        QString t;
+        const int n = int(random.bounded(quint32(maxWords + 1)));
+        for (int i = 0; i < n; ++i)
+            t += pick(words) + pick(glue);
+        return t;
+    };
+    for (int i = 0; i < 40; ++i) {
+        Item item;
+        item.categoryId = random.bounded(3) == 0 ? secondCategory : 1;
+        item.codeTypeId = random.bounded(2) == 0 ? 201 : 202;
+        item.tested = int(random.bounded(2)) + 1;
+        item.isFolder = random.bounded(6) == 0;
+        item.description = text(3);
+        item.code = text(12);
+        item.notes = text(4);
+        item.example = text(2);
+        save(item);
+    }
+
+    const auto cutFrom = [&](const QString& source) {
+        const QVector<char32_t> points = codePoints(source);
+        if (points.isEmpty())
+            return QString();
+        const int from = int(random.bounded(quint32(points.size())));
+        const int length = 1 + int(random.bounded(quint32(std::min<int>(8, points.size() - from))));
+        return QString::fromUcs4(points.constData() + from, length);
+    };
+    int queries = 0;
+    int withHits = 0;
+    for (int i = 0; i < 400; ++i) {
+        QString query;
+        switch (random.bounded(4)) {
+        case 0:
+            query = pick(words);
+            break;
+        case 1:
+            query = cutFrom(items.at(int(random.bounded(quint32(items.size())))).code);
+            break;
+        case 2:
+            query = pick(words) + pick(glue) + pick(words);
+            break;
+        default:
+            query = cutFrom(pick(words)) + QLatin1Char(' ') + cutFrom(pick(words));
+            break;
+        }
+        const int mode = int(random.bounded(3));
+        const int categoryId = random.bounded(3) == 0 ? secondCategory : 0;
+        const int status = random.bounded(3) == 0 ? 1 : 0;
+        const int typeId = random.bounded(3) == 0 ? 202 : 0;
+        const QList<int> expected = referenceSearch(items, mode, query, categoryId, status, typeId);
+        EXPECT_EQ(ids(mode, query, categoryId, status, typeId), expected)
+            << "mode " << mode << " query [" << query.toStdString() << "]";
+        ++queries;
+        withHits += expected.isEmpty() ? 0 : 1;
+    }
+    // The generated queries must exercise hits as well as misses.
+    EXPECT_GT(withHits, queries / 4);
+    EXPECT_LT(withHits, queries);
+}
+
+} // namespace
+} // namespace qs
