@@ -48,47 +48,47 @@ QString gstrInsertChoice;
 bool gblnInsertCancelled = false;
 
 void ResetGlobals() {
-  gobjCurrentUser.reset();
-  gstrUserId.clear();
-  gstrFirstName.clear();
-  gstrLastName.clear();
-  gstrUserName.clear();
-  gintAccessLevel = 0;
-  gstrAccessType.clear();
+    gobjCurrentUser.reset();
+    gstrUserId.clear();
+    gstrFirstName.clear();
+    gstrLastName.clear();
+    gstrUserName.clear();
+    gintAccessLevel = 0;
+    gstrAccessType.clear();
 
-  gobjLibrary.reset();
-  gblnFirstUser = false;
-  gblnFirstUserCancelled = false;
-  gblnSwitchingDatabase = false;
-  gstrPriorDbPath.clear();
-  gstrPriorDbFile.clear();
-  gintLoginAttempts = 0;
-  gstrFirstUserId.clear();
-  gstrFirstUserPassword.clear();
-  gstrSettingsFile.clear();
+    gobjLibrary.reset();
+    gblnFirstUser = false;
+    gblnFirstUserCancelled = false;
+    gblnSwitchingDatabase = false;
+    gstrPriorDbPath.clear();
+    gstrPriorDbFile.clear();
+    gintLoginAttempts = 0;
+    gstrFirstUserId.clear();
+    gstrFirstUserPassword.clear();
+    gstrSettingsFile.clear();
 
-  glngSelectedId = 0;
-  glngParentId = 0;
-  gstrCategory.clear();
-  glngCategoryId = 0;
-  gstrSourceType.clear();
-  glngSourceTypeId = 0;
-  gstrCodeStatus.clear();
-  gintCodeStatusId = 0;
-  gstrClickButton.clear();
-  gblnCodeView = false;
+    glngSelectedId = 0;
+    glngParentId = 0;
+    gstrCategory.clear();
+    glngCategoryId = 0;
+    gstrSourceType.clear();
+    glngSourceTypeId = 0;
+    gstrCodeStatus.clear();
+    gintCodeStatusId = 0;
+    gstrClickButton.clear();
+    gblnCodeView = false;
 
-  gstrMode.clear();
-  gstrCurrentVersion.clear();
-  gintMajor = 0;
-  gintMinor = 0;
-  gintRevision = 0;
-  gstrFolderType.clear();
-  glngFolderAuthorId = 0;
-  gstrFolderName.clear();
-  gblnFolderAccepted = false;
-  gstrInsertChoice.clear();
-  gblnInsertCancelled = false;
+    gstrMode.clear();
+    gstrCurrentVersion.clear();
+    gintMajor = 0;
+    gintMinor = 0;
+    gintRevision = 0;
+    gstrFolderType.clear();
+    glngFolderAuthorId = 0;
+    gstrFolderName.clear();
+    gblnFolderAccepted = false;
+    gstrInsertChoice.clear();
+    gblnInsertCancelled = false;
 }
 
 } // namespace qs

@@ -27,230 +27,221 @@ namespace {
 
 // Chosen as the new database's name: a name with a point must name an ".mdb"
 // file.
-bool IsDatabaseName(const QString &strFileName) {
-  return !strFileName.contains(QLatin1Char('.')) ||
-         strFileName.contains(QLatin1String(".mdb"), Qt::CaseInsensitive);
+bool IsDatabaseName(const QString& strFileName) {
+    return !strFileName.contains(QLatin1Char('.')) ||
+           strFileName.contains(QLatin1String(".mdb"), Qt::CaseInsensitive);
 }
 
-QString WithMdb(const QString &strName) {
-  return strName.right(4).compare(QLatin1String(".mdb"), Qt::CaseInsensitive) ==
-                 0
-             ? strName
-             : strName + QLatin1String(".mdb");
+QString WithMdb(const QString& strName) {
+    return strName.right(4).compare(QLatin1String(".mdb"), Qt::CaseInsensitive) == 0
+               ? strName
+               : strName + QLatin1String(".mdb");
 }
 
-void SaveDatabaseSetting(const char *value, const QString &text) {
-  SaveRegSetting(QString::fromLatin1(REG_KEY_DATABASE),
-                 QString::fromLatin1(value), text);
+void SaveDatabaseSetting(const char* value, const QString& text) {
+    SaveRegSetting(QString::fromLatin1(REG_KEY_DATABASE), QString::fromLatin1(value), text);
 }
 
 // Shows frmLogin for the database just chosen or made, after this dialog has
 // gone.
-void ShowLoginForChosenDatabase(frmDatabase &dialog) {
-  // Loading the login first keeps a window in the collection while the dialog
-  // unloads.
-  frmLogin &login = Forms::get<frmLogin>();
-  dialog.Unload();
-  login.Show(vbModeless);
-  login.setCaption(QStringLiteral("Login To Database You Selected"));
+void ShowLoginForChosenDatabase(frmDatabase& dialog) {
+    // Loading the login first keeps a window in the collection while the dialog
+    // unloads.
+    frmLogin& login = Forms::get<frmLogin>();
+    dialog.Unload();
+    login.Show(vbModeless);
+    login.setCaption(QStringLiteral("Login To Database You Selected"));
 }
 
 } // namespace
 
 frmDatabase::frmDatabase() : FormBase(QStringLiteral("frmDatabase")) {
-  setCaption(QStringLiteral("Database"));
-  buildLayout();
+    setCaption(QStringLiteral("Database"));
+    buildLayout();
 }
 
 frmDatabase::~frmDatabase() = default;
 
 void frmDatabase::buildLayout() {
-  frmeDatabase = new QGroupBox(QStringLiteral("Database Is Missing"), this);
-  frmeDatabase->setObjectName(QStringLiteral("frmeDatabase"));
-  optNew =
-      new QRadioButton(QStringLiteral("Create New Database"), frmeDatabase);
-  optNew->setObjectName(QStringLiteral("optNew"));
-  optSearch =
-      new QRadioButton(QStringLiteral("Search For Database"), frmeDatabase);
-  optSearch->setObjectName(QStringLiteral("optSearch"));
-  optNew->setChecked(true);
-  auto *frameLayout = new QVBoxLayout(frmeDatabase);
-  frameLayout->addWidget(optNew);
-  frameLayout->addWidget(optSearch);
+    frmeDatabase = new QGroupBox(QStringLiteral("Database Is Missing"), this);
+    frmeDatabase->setObjectName(QStringLiteral("frmeDatabase"));
+    optNew = new QRadioButton(QStringLiteral("Create New Database"), frmeDatabase);
+    optNew->setObjectName(QStringLiteral("optNew"));
+    optSearch = new QRadioButton(QStringLiteral("Search For Database"), frmeDatabase);
+    optSearch->setObjectName(QStringLiteral("optSearch"));
+    optNew->setChecked(true);
+    auto* frameLayout = new QVBoxLayout(frmeDatabase);
+    frameLayout->addWidget(optNew);
+    frameLayout->addWidget(optSearch);
 
-  cmdOK = new QPushButton(QStringLiteral("OK"), this);
-  cmdOK->setObjectName(QStringLiteral("cmdOK"));
-  cmdCancel = new QPushButton(QStringLiteral("Cancel"), this);
-  cmdCancel->setObjectName(QStringLiteral("cmdCancel"));
-  cmdHelp = new QPushButton(QStringLiteral("Help"), this);
-  cmdHelp->setObjectName(QStringLiteral("cmdHelp"));
-  for (QPushButton *button : {cmdOK, cmdCancel, cmdHelp})
-    button->setAutoDefault(false);
+    cmdOK = new QPushButton(QStringLiteral("OK"), this);
+    cmdOK->setObjectName(QStringLiteral("cmdOK"));
+    cmdCancel = new QPushButton(QStringLiteral("Cancel"), this);
+    cmdCancel->setObjectName(QStringLiteral("cmdCancel"));
+    cmdHelp = new QPushButton(QStringLiteral("Help"), this);
+    cmdHelp->setObjectName(QStringLiteral("cmdHelp"));
+    for (QPushButton* button : {cmdOK, cmdCancel, cmdHelp})
+        button->setAutoDefault(false);
 
-  auto *buttons = new QHBoxLayout;
-  buttons->addStretch();
-  buttons->addWidget(cmdOK);
-  buttons->addWidget(cmdCancel);
-  buttons->addWidget(cmdHelp);
-  auto *layout = new QVBoxLayout(this);
-  layout->addWidget(frmeDatabase);
-  layout->addLayout(buttons);
+    auto* buttons = new QHBoxLayout;
+    buttons->addStretch();
+    buttons->addWidget(cmdOK);
+    buttons->addWidget(cmdCancel);
+    buttons->addWidget(cmdHelp);
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(frmeDatabase);
+    layout->addLayout(buttons);
 
-  connect(cmdOK, &QPushButton::clicked, this, [this] { cmdOK_Click(); });
-  connect(cmdCancel, &QPushButton::clicked, this, [this] { cmdExit_Click(); });
-  connect(cmdHelp, &QPushButton::clicked, this, [this] { cmdHelp_Click(); });
+    connect(cmdOK, &QPushButton::clicked, this, [this] { cmdOK_Click(); });
+    connect(cmdCancel, &QPushButton::clicked, this, [this] { cmdExit_Click(); });
+    connect(cmdHelp, &QPushButton::clicked, this, [this] { cmdHelp_Click(); });
 }
 
 void frmDatabase::Form_Load() {
-  try {
-    CenterOnScreen();
-  } catch (...) {
-    HandleFailure("frmDatabase:Form_Load;");
-  }
+    try {
+        CenterOnScreen();
+    } catch (...) {
+        HandleFailure("frmDatabase:Form_Load;");
+    }
 }
 
 void frmDatabase::cmdOK_Click() {
-  try {
-    host().setMousePointer(vbHourglass);
-    if (optSearch->isChecked())
-      FindDatabase();
-    else
-      NewDatabase();
-    host().setMousePointer(vbDefault);
-  } catch (...) {
-    HandleFailure("frmDatabase:cmdOK_Click;");
-  }
+    try {
+        host().setMousePointer(vbHourglass);
+        if (optSearch->isChecked())
+            FindDatabase();
+        else
+            NewDatabase();
+        host().setMousePointer(vbDefault);
+    } catch (...) {
+        HandleFailure("frmDatabase:cmdOK_Click;");
+    }
 }
 
 void frmDatabase::FindDatabase() {
-  try {
-    host().setMousePointer(vbHourglass);
-    SelectDataBase();
-    host().setMousePointer(vbDefault);
-  } catch (...) {
-    HandleFailure("frmDatabase:FindDatabase;");
-  }
+    try {
+        host().setMousePointer(vbHourglass);
+        SelectDataBase();
+        host().setMousePointer(vbDefault);
+    } catch (...) {
+        HandleFailure("frmDatabase:FindDatabase;");
+    }
 }
 
 void frmDatabase::SelectDataBase() {
-  try {
-    gstrPriorDbPath = GetRegSetting(QString::fromLatin1(REG_KEY_DATABASE),
-                                    QString::fromLatin1(REG_VAL_DATABASE_PATH),
-                                    QString::fromLatin1(REG_DEF_DATABASE_PATH))
-                          .toString();
-    gstrPriorDbFile =
-        GetRegSetting(QString::fromLatin1(REG_KEY_DATABASE),
-                      QString::fromLatin1(REG_VAL_DATABASE_FILENAME),
-                      QString::fromLatin1(REG_DEF_DATABASE_FILENAME))
-            .toString();
+    try {
+        gstrPriorDbPath = GetRegSetting(QString::fromLatin1(REG_KEY_DATABASE),
+                                        QString::fromLatin1(REG_VAL_DATABASE_PATH),
+                                        QString::fromLatin1(REG_DEF_DATABASE_PATH))
+                              .toString();
+        gstrPriorDbFile = GetRegSetting(QString::fromLatin1(REG_KEY_DATABASE),
+                                        QString::fromLatin1(REG_VAL_DATABASE_FILENAME),
+                                        QString::fromLatin1(REG_DEF_DATABASE_FILENAME))
+                              .toString();
 
-    FileDialogRequest request;
-    request.title = QStringLiteral("Select a Tarnwick Database.");
-    request.filter = QString::fromLatin1(FILTER_MDB);
-    request.mustExist = true;
-    const QString chosen = host().fileDialog(request);
-    if (chosen.isEmpty()) {
-      host().setMousePointer(vbDefault);
-      return;
+        FileDialogRequest request;
+        request.title = QStringLiteral("Select a Tarnwick Database.");
+        request.filter = QString::fromLatin1(FILTER_MDB);
+        request.mustExist = true;
+        const QString chosen = host().fileDialog(request);
+        if (chosen.isEmpty()) {
+            host().setMousePointer(vbDefault);
+            return;
+        }
+
+        const QFileInfo file(chosen);
+        mstrDatabasePath = file.absolutePath();
+        SaveDatabaseSetting(REG_VAL_DATABASE_PATH, mstrDatabasePath);
+        SaveDatabaseSetting(REG_VAL_DATABASE_FILENAME, file.fileName());
+        gintLoginAttempts = 0;
+        ShowLoginForChosenDatabase(*this);
+    } catch (...) {
+        HandleFailure("frmDatabase:SelectDataBase;");
     }
-
-    const QFileInfo file(chosen);
-    mstrDatabasePath = file.absolutePath();
-    SaveDatabaseSetting(REG_VAL_DATABASE_PATH, mstrDatabasePath);
-    SaveDatabaseSetting(REG_VAL_DATABASE_FILENAME, file.fileName());
-    gintLoginAttempts = 0;
-    ShowLoginForChosenDatabase(*this);
-  } catch (...) {
-    HandleFailure("frmDatabase:SelectDataBase;");
-  }
 }
 
 void frmDatabase::NewDatabase() {
-  try {
-    host().setMousePointer(vbHourglass);
-    FileDialogRequest request;
-    request.title =
-        QStringLiteral("Please select path and enter new database name.");
-    request.filter = QString::fromLatin1(FILTER_MDB);
-    request.forSave = true;
-    const QString chosen = host().fileDialog(request);
-    if (chosen.isEmpty()) {
-      host().setMousePointer(vbDefault);
-      return;
+    try {
+        host().setMousePointer(vbHourglass);
+        FileDialogRequest request;
+        request.title = QStringLiteral("Please select path and enter new database name.");
+        request.filter = QString::fromLatin1(FILTER_MDB);
+        request.forSave = true;
+        const QString chosen = host().fileDialog(request);
+        if (chosen.isEmpty()) {
+            host().setMousePointer(vbDefault);
+            return;
+        }
+
+        const QFileInfo file(chosen);
+        if (!IsDatabaseName(file.fileName())) {
+            host().msgBox(QStringLiteral("You can only enter an access database (.mdb)."),
+                          vbInformation, QStringLiteral("Database?"));
+            host().setMousePointer(vbDefault);
+            return;
+        }
+
+        // The registry names the new file before it is made.
+        mstrDatabasePath = file.absolutePath();
+        SaveDatabaseSetting(REG_VAL_DATABASE_PATH, mstrDatabasePath);
+        SaveDatabaseSetting(REG_VAL_DATABASE_FILENAME, WithMdb(file.fileName()));
+
+        gobjLibrary = std::make_unique<cLibraryService>();
+        host().doEvents();
+
+        const QString databasePath = WithMdb(chosen);
+        // Here the settings file is the one in the program's own folder, whatever
+        // the key says.
+        const QString settingsFile = FormatPath(AppPath()) + QStringLiteral("DataFiles") +
+                                     kPathSeparator + QStringLiteral("Quillstone.ini");
+
+        if (!FileExists(databasePath)) {
+            gobjLibrary->CreateDatabase(databasePath, settingsFile);
+            host().msgBox(QStringLiteral("Please add the first user"), vbInformation, QString());
+            gblnFirstUser = true;
+            frmUser& user = Forms::get<frmUser>();
+            user.cmdUserAdd_Click();
+            user.Show(vbModal);
+            if (!gblnFirstUserCancelled) {
+                host().setMousePointer(vbDefault);
+                ShowLoginForChosenDatabase(*this);
+            } else {
+                host().endProcess();
+            }
+        } else {
+            host().msgBox(QStringLiteral("You can only enter an access database that "
+                                         "does not already exist"),
+                          vbInformation, QStringLiteral("Database?"));
+            host().setMousePointer(vbDefault);
+        }
+    } catch (...) {
+        HandleFailure("frmDatabase:NewDatabase;");
     }
-
-    const QFileInfo file(chosen);
-    if (!IsDatabaseName(file.fileName())) {
-      host().msgBox(
-          QStringLiteral("You can only enter an access database (.mdb)."),
-          vbInformation, QStringLiteral("Database?"));
-      host().setMousePointer(vbDefault);
-      return;
-    }
-
-    // The registry names the new file before it is made.
-    mstrDatabasePath = file.absolutePath();
-    SaveDatabaseSetting(REG_VAL_DATABASE_PATH, mstrDatabasePath);
-    SaveDatabaseSetting(REG_VAL_DATABASE_FILENAME, WithMdb(file.fileName()));
-
-    gobjLibrary = std::make_unique<cLibraryService>();
-    host().doEvents();
-
-    const QString databasePath = WithMdb(chosen);
-    // Here the settings file is the one in the program's own folder, whatever
-    // the key says.
-    const QString settingsFile = FormatPath(AppPath()) +
-                                 QStringLiteral("DataFiles") + kPathSeparator +
-                                 QStringLiteral("Quillstone.ini");
-
-    if (!FileExists(databasePath)) {
-      gobjLibrary->CreateDatabase(databasePath, settingsFile);
-      host().msgBox(QStringLiteral("Please add the first user"), vbInformation,
-                    QString());
-      gblnFirstUser = true;
-      frmUser &user = Forms::get<frmUser>();
-      user.cmdUserAdd_Click();
-      user.Show(vbModal);
-      if (!gblnFirstUserCancelled) {
-        host().setMousePointer(vbDefault);
-        ShowLoginForChosenDatabase(*this);
-      } else {
-        host().endProcess();
-      }
-    } else {
-      host().msgBox(QStringLiteral("You can only enter an access database that "
-                                   "does not already exist"),
-                    vbInformation, QStringLiteral("Database?"));
-      host().setMousePointer(vbDefault);
-    }
-  } catch (...) {
-    HandleFailure("frmDatabase:NewDatabase;");
-  }
 }
 
 void frmDatabase::cmdExit_Click() {
-  try {
-    const int answer = host().msgBox(
-        QStringLiteral("Exiting without finding or creating a new database \r\n"
-                       "will cause the program to exit completely.\r\n\r\n"
-                       "Do you wish to continue?"),
-        vbYesNo | vbQuestion, QString());
-    if (answer == vbYes) {
-      UnloadAllForms(QString());
-      host().doEvents();
-      host().endProcess();
+    try {
+        const int answer =
+            host().msgBox(QStringLiteral("Exiting without finding or creating a new database \r\n"
+                                         "will cause the program to exit completely.\r\n\r\n"
+                                         "Do you wish to continue?"),
+                          vbYesNo | vbQuestion, QString());
+        if (answer == vbYes) {
+            UnloadAllForms(QString());
+            host().doEvents();
+            host().endProcess();
+        }
+    } catch (...) {
+        HandleFailure("frmDatabase:cmdExit_Click;");
     }
-  } catch (...) {
-    HandleFailure("frmDatabase:cmdExit_Click;");
-  }
 }
 
 void frmDatabase::cmdHelp_Click() {
-  try {
-    ShowHelpTopic(1550);
-  } catch (...) {
-    HandleFailure("frmDatabase:cmdHelp_Click;");
-  }
+    try {
+        ShowHelpTopic(1550);
+    } catch (...) {
+        HandleFailure("frmDatabase:cmdHelp_Click;");
+    }
 }
 
 } // namespace qs
