@@ -1,0 +1,177 @@
+#include "Figures.h"
+
+#include "PlainScan.h"
+#include "SqliteStore.h"
+#include "SyntheticLibrary.h"
+#include "cLibraryService.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QRandomGenerator>
+#include <QSqlQuery>
+
+namespace qs::bench {
+
+namespace {
+
+QList<int> idsOf(const VbArray<ItemRow>& rows) {
+    QList<int> ids;
+    for (const ItemRow& row : rows)
+        ids << row.Id;
+    std::sort(ids.begin(), ids.end());
+    return ids;
+}
+
+QString number(double value) {
+    return QString::number(value, 'f', 3);
+}
+
+} // namespace
+
+void FigureGetItems(const BenchContext& context) {
+    const auto& node = SyntheticLibrary::node(0);
+    VbArray<ItemRow> rows;
+    const double ms = MedianMs(context.runs, [&] {
+        cLibraryService service(context.path);
+        rows = service.GetItems(QStringLiteral("SourceCode"), 0, node.categoryId, node.codeTypeId,
+                                0, 0, node.tested, 0);
+    });
+    QList<int> expected;
+    PlainScan scan(context.path);
+    const double baseline = MedianMs(context.baselineRuns, [&] {
+        expected = scan.items(node.categoryId, node.codeTypeId, node.tested);
+    });
+    qint64 folders = 0;
+    for (const ItemRow& row : rows)
+        folders += row.IsFolder ? 1 : 0;
+    PrintFigure(context, QStringLiteral("get_items_type_node"), ms, baseline, rows.count(),
+                idsOf(rows) == expected, {{QStringLiteral("folders"), QString::number(folders)}});
+}
+
+void FigureGetSourceCode(const BenchContext& context) {
+    QRandomGenerator random(7);
+    // Ids from 1 to the item count all exist: folders and items are numbered without gaps.
+    const int highest = context.items;
+    QVector<int> ids;
+    for (int i = 0; i < 51; ++i)
+        ids << 1 + int(random.bounded(quint32(highest)));
+    bool agree = true;
+    int next = 0;
+    QString code;
+    const double ms = MedianMs(ids.size(), [&] {
+        cLibraryService service(context.path);
+        code = service.GetSourceCode(ids.at(next++)).Code();
+    });
+    PlainScan scan(context.path);
+    next = 0;
+    QString scanned;
+    const double baseline =
+        MedianMs(context.baselineRuns, [&] { scanned = scan.code(ids.at(next++)); });
+    cLibraryService service(context.path);
+    for (int i = 0; i < context.baselineRuns; ++i)
+        agree = agree && service.GetSourceCode(ids.at(i)).Code() == scan.code(ids.at(i));
+    PrintFigure(context, QStringLiteral("get_source_code"), ms, baseline, 1, agree,
+                {{QStringLiteral("code_chars"), QString::number(code.size())}});
+}
+
+void FigureSearch(const BenchContext& context, const QString& name, int mode, const QString& text,
+                  bool filtered) {
+    const auto& node = SyntheticLibrary::node(0);
+    const int categoryId = filtered ? node.categoryId : 0;
+    const int status = filtered ? node.tested : 0;
+    const int typeId = filtered ? node.codeTypeId : 0;
+    VbArray<ItemRow> rows;
+    const double ms = MedianMs(context.runs, [&] {
+        cLibraryService service(context.path);
+        rows = service.Search(mode, text, categoryId, status, typeId, 0, 0);
+    });
+    PlainScan scan(context.path);
+    QList<int> expected;
+    const double baseline = MedianMs(context.baselineRuns, [&] {
+        expected = scan.search(mode, text, categoryId, status, typeId);
+    });
+    PrintFigure(context, name, ms, baseline, rows.count(), idsOf(rows) == expected,
+                {{QStringLiteral("speedup"), number(baseline / qMax(ms, 0.001))}});
+}
+
+void FigureBackup(const BenchContext& context) {
+    const QString folder = QFileInfo(context.path).absoluteDir().filePath(QStringLiteral("Backup"));
+    QStringList made;
+    const double ms = MedianMs(3, [&] {
+        cLibraryService service(context.path);
+        made << service.BackupDatabase(context.path);
+    });
+    const QString copy = context.path + QStringLiteral(".copy");
+    const double baseline = MedianMs(3, [&] {
+        QFile::remove(copy);
+        QFile::copy(context.path, copy);
+    });
+    const qint64 items = PlainScan::itemCount(context.path);
+    bool agree = true;
+    for (const QString& backup : made)
+        agree = agree && PlainScan::itemCount(backup) == items;
+    for (const QString& backup : made)
+        QFile::remove(backup);
+    QFile::remove(copy);
+    QDir().rmdir(folder);
+    PrintFigure(context, QStringLiteral("backup_database"), ms, baseline, items, agree,
+                {{QStringLiteral("baseline"), QStringLiteral("\"plain file copy\"")}});
+}
+
+void FigureCompact(const BenchContext& context) {
+    const qint64 before = PlainScan::itemCount(context.path);
+    const double ms =
+        MedianMs(3, [&] { cLibraryService(context.path).CompactDatabase(context.path); });
+    const QString copy = context.path + QStringLiteral(".copy");
+    const double baseline = MedianMs(3, [&] {
+        QFile::remove(copy);
+        QFile::copy(context.path, copy);
+    });
+    QFile::remove(copy);
+    const qint64 after = PlainScan::itemCount(context.path);
+    PrintFigure(context, QStringLiteral("compact_database"), ms, baseline, after, before == after,
+                {{QStringLiteral("baseline"), QStringLiteral("\"plain file copy\"")}});
+}
+
+void FigureFileSize(const BenchContext& context) {
+    const QString source = QStringLiteral("bench:FileSize;");
+    // A compacted copy, then the same copy without the search index and its triggers.
+    const QString copy = context.path + QStringLiteral(".noindex");
+    QFile::remove(copy);
+    qint64 textBytes = 0;
+    {
+        auto store = SqliteStore::open(context.path, source);
+        store->run(QStringLiteral("PRAGMA wal_checkpoint(TRUNCATE)"), {}, source);
+        textBytes = store
+                        ->scalar(QStringLiteral("SELECT sum(length(CAST(Description AS BLOB)) + "
+                                                "length(CAST(Code AS BLOB)) + length(CAST(Notes "
+                                                "AS BLOB)) + length(CAST(Example AS BLOB))) FROM "
+                                                "SourceCode"),
+                                 {}, source)
+                        .toLongLong();
+        store->run(QStringLiteral("VACUUM INTO ?"), {copy}, source);
+    }
+    const qint64 withIndex = QFileInfo(copy).size();
+    {
+        auto store = SqliteStore::open(copy, source);
+        for (const char* trigger :
+             {"SourceCode_SearchInsert", "SourceCode_SearchDelete", "SourceCode_SearchUpdate"})
+            store->run(QStringLiteral("DROP TRIGGER %1").arg(QLatin1String(trigger)), {}, source);
+        store->run(QStringLiteral("DROP TABLE SourceCodeSearch"), {}, source);
+        store->run(QStringLiteral("VACUUM"), {}, source);
+    }
+    const qint64 withoutIndex = QFileInfo(copy).size();
+    for (const char* suffix : {"", "-wal", "-shm"})
+        QFile::remove(copy + QLatin1String(suffix));
+    const qint64 indexBytes = withIndex - withoutIndex;
+    PrintFigure(context, QStringLiteral("file_size"), 0, -1, context.items, indexBytes <= textBytes,
+                {{QStringLiteral("bytes_with_index"), QString::number(withIndex)},
+                 {QStringLiteral("bytes_without_index"), QString::number(withoutIndex)},
+                 {QStringLiteral("index_bytes"), QString::number(indexBytes)},
+                 {QStringLiteral("indexed_text_bytes"), QString::number(textBytes)},
+                 {QStringLiteral("index_to_text"),
+                  number(double(indexBytes) / double(qMax<qint64>(textBytes, 1)))}});
+}
+
+} // namespace qs::bench

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "Bench.h"
+
+namespace qs::bench {
+
+// One function per figure; each prints its own line.  A new figure is a new function here and
+// one line in main.
+void FigureGetItems(const BenchContext& context);
+void FigureGetSourceCode(const BenchContext& context);
+// name like "search_rare_any"; the filtered variant narrows to the first type node.
+void FigureSearch(const BenchContext& context, const QString& name, int mode, const QString& text,
+                  bool filtered);
+void FigureBackup(const BenchContext& context);
+void FigureCompact(const BenchContext& context);
+void FigureFileSize(const BenchContext& context);
+
+} // namespace qs::bench
