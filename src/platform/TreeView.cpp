@@ -5,6 +5,9 @@
 #include "QsError.h"
 #include "VbInput.h"
 
+#include <QCursor>
+#include <QDrag>
+#include <QDropEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -505,6 +508,122 @@ void TreeView::focusOutEvent(QFocusEvent* event) {
     QTreeWidget::focusOutEvent(event);
     if (LostFocus)
         LostFocus();
+}
+
+namespace {
+Qt::DropActions toActions(int effects) {
+    Qt::DropActions actions;
+    if (effects & vbDropEffectCopy)
+        actions |= Qt::CopyAction;
+    if (effects & vbDropEffectMove)
+        actions |= Qt::MoveAction;
+    return actions;
+}
+
+int toEffect(Qt::DropAction action) {
+    switch (action) {
+    case Qt::CopyAction:
+        return vbDropEffectCopy;
+    case Qt::MoveAction:
+        return vbDropEffectMove;
+    default:
+        return vbDropEffectNone;
+    }
+}
+
+Qt::DropAction preferred(int effect) {
+    if (effect & vbDropEffectMove)
+        return Qt::MoveAction;
+    if (effect & vbDropEffectCopy)
+        return Qt::CopyAction;
+    return Qt::IgnoreAction;
+}
+} // namespace
+
+void TreeView::OLEDrag() {
+    auto* data = new QMimeData();
+    int allowed = vbDropEffectCopy | vbDropEffectMove;
+    if (OLEStartDrag)
+        OLEStartDrag(*data, allowed);
+    if (allowed == vbDropEffectNone) {
+        delete data;
+        return;
+    }
+    auto* drag = new QDrag(this);
+    drag->setMimeData(data);
+    const int effect = toEffect(drag->exec(toActions(allowed), preferred(allowed)));
+    if (OLECompleteDrag)
+        OLECompleteDrag(effect);
+}
+
+void TreeView::setOLEDropMode(int mode) {
+    mOLEDropMode = mode;
+    setAcceptDrops(mode == vbOLEDropManual);
+    viewport()->setAcceptDrops(mode == vbOLEDropManual);
+}
+
+// Raises OLEDragOver and answers the drag with the effect the handler chose.
+bool TreeView::dragOver(QDropEvent* event, int state) {
+    const QPoint pos = event->position().toPoint();
+    int effect = toEffect(event->proposedAction());
+    if (effect == vbDropEffectNone)
+        effect = vbDropEffectMove;
+    if (OLEDragOver)
+        OLEDragOver(*event->mimeData(), effect, VbButton(event->buttons()),
+                    VbShift(event->modifiers()), pos.x(), pos.y(), state);
+    if (effect == vbDropEffectNone || !(toActions(effect) & event->possibleActions())) {
+        event->ignore();
+        return false;
+    }
+    event->setDropAction(preferred(effect));
+    event->accept();
+    return true;
+}
+
+void TreeView::dragEnterEvent(QDragEnterEvent* event) {
+    if (mOLEDropMode != vbOLEDropManual) {
+        QTreeWidget::dragEnterEvent(event);
+        return;
+    }
+    // The enter is always taken, so that moves over the tree keep asking.
+    dragOver(event, vbEnter);
+    event->accept();
+}
+
+void TreeView::dragMoveEvent(QDragMoveEvent* event) {
+    if (mOLEDropMode != vbOLEDropManual) {
+        QTreeWidget::dragMoveEvent(event);
+        return;
+    }
+    dragOver(event, vbOver);
+}
+
+void TreeView::dragLeaveEvent(QDragLeaveEvent* event) {
+    QTreeWidget::dragLeaveEvent(event);
+    if (mOLEDropMode == vbOLEDropManual && OLEDragOver) {
+        QMimeData none;
+        int effect = vbDropEffectNone;
+        const QPoint pos = viewport()->mapFromGlobal(QCursor::pos());
+        OLEDragOver(none, effect, 0, 0, pos.x(), pos.y(), vbLeave);
+    }
+}
+
+void TreeView::dropEvent(QDropEvent* event) {
+    if (mOLEDropMode != vbOLEDropManual) {
+        QTreeWidget::dropEvent(event);
+        return;
+    }
+    const QPoint pos = event->position().toPoint();
+    int effect = toEffect(event->dropAction());
+    if (OLEDragDrop)
+        OLEDragDrop(*event->mimeData(), effect, VbButton(event->buttons()),
+                    VbShift(event->modifiers()), pos.x(), pos.y());
+    if (effect == vbDropEffectNone) {
+        event->ignore();
+        return;
+    }
+    event->setDropAction(preferred(effect));
+    event->accept();
 }
 
 } // namespace qs

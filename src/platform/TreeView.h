@@ -3,12 +3,18 @@
 #include "Node.h"
 #include "TreeNodes.h"
 
+#include <QMimeData>
 #include <QTreeWidget>
 #include <functional>
 
 namespace qs {
 
 class ImageList;
+
+// Drag effects, drag-over states and drop modes.
+enum OLEDropEffect : int { vbDropEffectNone = 0, vbDropEffectCopy = 1, vbDropEffectMove = 2 };
+enum OLEDragOverState : int { vbEnter = 0, vbLeave = 1, vbOver = 2 };
+enum OLEDropModeValue : int { vbOLEDropNone = 0, vbOLEDropManual = 1 };
 
 // LabelEdit values.
 enum TreeLabelEdit : int { tvwAutomatic = 0, tvwManual = 1 };
@@ -71,6 +77,13 @@ public:
     // Scrolls one line up (-1) or down (1).
     void ScrollLine(int direction);
 
+    // Dragging.  OLEDrag starts a drag whose data OLEStartDrag fills; the drop effect comes back
+    // through OLECompleteDrag.  With the drop mode manual, drags over the tree raise OLEDragOver
+    // (the handler sets the effect; 0 refuses) and a drop raises OLEDragDrop.
+    void OLEDrag();
+    int OLEDropMode() const { return mOLEDropMode; }
+    void setOLEDropMode(int mode);
+
     // Events, in the design's names.  Cancel arguments are set true to refuse.
     std::function<void(Node)> NodeClick;
     std::function<void(Node)> Expand;
@@ -86,6 +99,13 @@ public:
     std::function<void()> GotFocus;
     std::function<void()> LostFocus;
     std::function<void()> DblClick;
+    std::function<void(QMimeData& data, int& allowedEffects)> OLEStartDrag;
+    std::function<void(const QMimeData& data, int& effect, int button, int shift, int x, int y,
+                       int state)>
+        OLEDragOver;
+    std::function<void(const QMimeData& data, int& effect, int button, int shift, int x, int y)>
+        OLEDragDrop;
+    std::function<void(int effect)> OLECompleteDrag;
 
 protected:
     bool edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) override;
@@ -97,6 +117,10 @@ protected:
     void keyReleaseEvent(QKeyEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dragMoveEvent(QDragMoveEvent* event) override;
+    void dragLeaveEvent(QDragLeaveEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
 
 private:
     friend class Node;
@@ -124,6 +148,8 @@ private:
     QTreeWidgetItem* mDropHighlight = nullptr;
     bool mSorted = false;
     int mLabelEdit = tvwAutomatic;
+    bool dragOver(QDropEvent* event, int state);
+    int mOLEDropMode = vbOLEDropNone;
     bool mEditing = false;
     bool mInAfterLabelEdit = false;
     int mEditLimit = 0;

@@ -5,8 +5,10 @@
 #include "mTreeview.h"
 
 #include <QApplication>
+#include <QDropEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QMimeData>
 #include <gtest/gtest.h>
 
 using namespace qs;
@@ -475,4 +477,52 @@ TEST_F(TreeViewTest, IndentationIsGivenInTwips) {
     EXPECT_FALSE(tree.updatesEnabled());
     tvwRedraw(tree, true);
     EXPECT_TRUE(tree.updatesEnabled());
+}
+
+// Dragging a node's key over the tree and dropping it.
+TEST_F(TreeViewTest, ManualDropModeAsksTheHandlerForEachDragOverAndDrop) {
+    Node folder = tree.Nodes.Add("ROOT", tvwChild, "SC12TipTestedFolder", "Tips", "ClosedFolder");
+    root.setExpanded(true);
+    tree.resize(200, 300);
+    tree.show();
+    tree.setOLEDropMode(vbOLEDropManual);
+    EXPECT_TRUE(tree.viewport()->acceptDrops());
+
+    QStringList over;
+    tree.OLEDragOver = [&](const QMimeData& data, int& effect, int, int, int x, int y, int state) {
+        Node hit = tree.HitTest(x, y);
+        over << QString("%1:%2").arg(state).arg(hit ? hit.Key() : "none");
+        if (!data.hasFormat("application/x-tarnwick") || !hit || hit.Image() != "ClosedFolder")
+            effect = vbDropEffectNone;
+    };
+    QString dropped;
+    tree.OLEDragDrop = [&](const QMimeData& data, int& effect, int, int, int x, int y) {
+        dropped = QString::fromLatin1(data.data("application/x-tarnwick")) + " on " +
+                  tree.HitTest(x, y).Key();
+        effect = vbDropEffectMove;
+    };
+
+    QMimeData data;
+    data.setData("application/x-tarnwick", "SC7TipTested");
+    const QPoint onFolder = tree.visualItemRect(tree.topLevelItem(0)->child(0)).center();
+    const QPoint onRoot = tree.visualItemRect(tree.topLevelItem(0)).center();
+    const Qt::DropActions actions = Qt::MoveAction;
+
+    QDragEnterEvent enter(onRoot, actions, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(tree.viewport(), &enter);
+    EXPECT_TRUE(enter.isAccepted());
+    QDragMoveEvent refused(onRoot, actions, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(tree.viewport(), &refused);
+    EXPECT_FALSE(refused.isAccepted());
+    QDragMoveEvent taken(onFolder, actions, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(tree.viewport(), &taken);
+    EXPECT_TRUE(taken.isAccepted());
+    EXPECT_EQ(taken.dropAction(), Qt::MoveAction);
+    EXPECT_EQ(over, QStringList({"0:ROOT", "2:ROOT", "2:SC12TipTestedFolder"}));
+
+    QDropEvent drop(QPointF(onFolder), actions, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(tree.viewport(), &drop);
+    EXPECT_TRUE(drop.isAccepted());
+    EXPECT_EQ(dropped, "SC7TipTested on SC12TipTestedFolder");
+    EXPECT_EQ(folder.Children(), 0); // the handler moves nodes, not the tree
 }
