@@ -9,6 +9,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMimeData>
+#include <QScrollBar>
 #include <gtest/gtest.h>
 
 using namespace qs;
@@ -525,4 +526,19 @@ TEST_F(TreeViewTest, ManualDropModeAsksTheHandlerForEachDragOverAndDrop) {
     EXPECT_TRUE(drop.isAccepted());
     EXPECT_EQ(dropped, "SC7TipTested on SC12TipTestedFolder");
     EXPECT_EQ(folder.Children(), 0); // the handler moves nodes, not the tree
+}
+
+TEST_F(TreeViewTest, ScrollLineMovesOneLineEitherWay) {
+    for (int i = 1; i <= 100; ++i)
+        tree.Nodes.Add("ROOT", tvwChild, QString("SC%1Tip").arg(i), "tip");
+    root.setExpanded(true);
+    tree.resize(200, 150);
+    tree.show();
+    QScrollBar* bar = tree.verticalScrollBar();
+    ASSERT_GT(bar->maximum(), 0);
+    tree.ScrollLine(1);
+    EXPECT_EQ(bar->value(), bar->singleStep());
+    tree.ScrollLine(-1);
+    tree.ScrollLine(-1);
+    EXPECT_EQ(bar->value(), 0);
 }
