@@ -5,6 +5,7 @@
 #include <QCloseEvent>
 #include <QGuiApplication>
 #include <QScreen>
+#include <QTimer>
 
 namespace qs {
 
@@ -17,6 +18,8 @@ std::function<void()>& onEmpty() {
     static std::function<void()> callback;
     return callback;
 }
+int gYieldDepth = 0;
+bool gEmptyCheckPending = false;
 } // namespace
 
 FormBase::FormBase(const QString& name, QWidget* parent) : QDialog(parent) {
@@ -26,7 +29,9 @@ FormBase::FormBase(const QString& name, QWidget* parent) : QDialog(parent) {
                    Qt::WindowMinMaxButtonsHint | Qt::WindowCloseButtonHint);
 }
 
-FormBase::~FormBase() { Forms::remove(this); }
+FormBase::~FormBase() {
+    Forms::remove(this);
+}
 
 void FormBase::load() {
     mLoaded = true;
@@ -95,11 +100,17 @@ FormBase* Forms::findByName(const QString& name) {
     return nullptr;
 }
 
-QList<FormBase*> Forms::all() { return loadedForms(); }
+QList<FormBase*> Forms::all() {
+    return loadedForms();
+}
 
-int Forms::count() { return loadedForms().size(); }
+int Forms::count() {
+    return loadedForms().size();
+}
 
-void Forms::setOnEmpty(std::function<void()> callback) { onEmpty() = std::move(callback); }
+void Forms::setOnEmpty(std::function<void()> callback) {
+    onEmpty() = std::move(callback);
+}
 
 void Forms::destroyAll() {
     const QList<FormBase*> forms = loadedForms();
@@ -111,12 +122,40 @@ void Forms::destroyAll() {
     }
 }
 
-void Forms::add(FormBase* form) { loadedForms().append(form); }
+void Forms::add(FormBase* form) {
+    loadedForms().append(form);
+}
 
 void Forms::remove(FormBase* form) {
     const bool wasThere = loadedForms().removeOne(form);
+    // A handler that unloads every form usually shows another one next (back to the login), so
+    // the end is decided later, once control is back in the event loop.
     if (wasThere && loadedForms().isEmpty() && onEmpty())
+        scheduleEmptyCheck(0);
+}
+
+void Forms::scheduleEmptyCheck(int delayMs) {
+    if (gEmptyCheckPending || !QCoreApplication::instance())
+        return;
+    gEmptyCheckPending = true;
+    QTimer::singleShot(delayMs, QCoreApplication::instance(), [] {
+        gEmptyCheckPending = false;
+        if (!loadedForms().isEmpty() || !onEmpty())
+            return;
+        if (gYieldDepth > 0) {
+            scheduleEmptyCheck(20);
+            return;
+        }
         onEmpty()();
+    });
+}
+
+Forms::YieldScope::YieldScope() {
+    ++gYieldDepth;
+}
+
+Forms::YieldScope::~YieldScope() {
+    --gYieldDepth;
 }
 
 } // namespace qs

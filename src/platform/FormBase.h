@@ -74,8 +74,19 @@ public:
     static QList<FormBase*> all();
     static int count();
 
-    // Called when the last form is unloaded; the program quits there.
+    // Called once the last form is unloaded and no handler is running any more (the check waits
+    // for the event loop at top level); the program quits there.
     static void setOnEmpty(std::function<void()> callback);
+
+    // Marks code that runs a nested event loop (DoEvents, a modal show): the program does not end
+    // under it, since the handler that yields is still running.
+    class YieldScope {
+    public:
+        YieldScope();
+        ~YieldScope();
+        YieldScope(const YieldScope&) = delete;
+        YieldScope& operator=(const YieldScope&) = delete;
+    };
     // Unloads every form without asking them (tests between cases).
     static void destroyAll();
 
@@ -83,6 +94,7 @@ private:
     friend class FormBase;
     static void add(FormBase* form);
     static void remove(FormBase* form);
+    static void scheduleEmptyCheck(int delayMs);
 };
 
 } // namespace qs

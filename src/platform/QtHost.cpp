@@ -215,6 +215,7 @@ void QtHost::showModal(FormBase& form) {
     form.raise();
     form.activateWindow();
     if (guard && guard->isVisible()) {
+        const Forms::YieldScope yielding;
         QEventLoop loop;
         HideWatcher watcher(&form, &loop);
         QObject::connect(&form, &QObject::destroyed, &loop, &QEventLoop::quit);
@@ -397,6 +398,7 @@ bool QtHost::previousInstance() {
 }
 
 void QtHost::doEvents() {
+    const Forms::YieldScope yielding;
     QCoreApplication::processEvents();
 }
 
@@ -408,7 +410,9 @@ void QtHost::endProcess() {
     mCursorPushed = false;
     std::fflush(stdout);
     std::fflush(stderr);
-    std::exit(0);
+    // Static destructors would run after Qt's own globals are gone (an open service object's
+    // database connection among them); every save is already committed, so nothing is lost.
+    std::_Exit(0);
 }
 
 } // namespace qs
