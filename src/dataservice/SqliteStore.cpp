@@ -20,6 +20,12 @@ std::function<void()> gBeforeCommitHook;
 const QByteArray kSqliteMagic("SQLite format 3\0", 16);
 constexpr int kHeaderSize = 100;
 constexpr int kApplicationIdOffset = 68;
+constexpr int kUserVersionOffset = 60;
+
+quint32 headerWord(const QByteArray& header, int offset) {
+    const auto* p = reinterpret_cast<const uchar*>(header.constData()) + offset;
+    return (quint32(p[0]) << 24) | (quint32(p[1]) << 16) | (quint32(p[2]) << 8) | quint32(p[3]);
+}
 
 QString nextConnectionName() {
     return QStringLiteral("qs_store_%1").arg(++gConnectionCounter);
@@ -34,10 +40,10 @@ bool SqliteStore::hasLibraryHeader(const QString& path) {
     const QByteArray header = file.read(kHeaderSize);
     if (header.size() < kHeaderSize || !header.startsWith(kSqliteMagic))
         return false;
-    const auto* p = reinterpret_cast<const uchar*>(header.constData()) + kApplicationIdOffset;
-    const quint32 id =
-        (quint32(p[0]) << 24) | (quint32(p[1]) << 16) | (quint32(p[2]) << 8) | quint32(p[3]);
-    return id == kApplicationId;
+    // The header also carries the schema version, so a library of a newer program is turned
+    // away before SQLite opens it (opening may leave journal files behind).
+    return headerWord(header, kApplicationIdOffset) == kApplicationId &&
+           headerWord(header, kUserVersionOffset) <= quint32(LatestSchemaVersion());
 }
 
 SqliteStore::SqliteStore(const QString& path, const QString& connectionName)
@@ -128,6 +134,7 @@ void SqliteStore::migrate(int fromVersion, const QString& source) {
         }
         run(QStringLiteral("INSERT INTO SchemaVersion (Version, AppliedOn) VALUES (?, ?)"),
             {step.version, StoredDate(QDateTime::currentDateTime())}, source);
+        run(QStringLiteral("PRAGMA user_version = %1").arg(step.version), {}, source);
     }
     transaction.commit();
 }

@@ -134,6 +134,17 @@ TEST_F(ForeignFile, NewerSchemaVersionIsRefused) {
     expectRefusedAndUntouched(dbPath);
 }
 
+TEST_F(ForeignFile, NewerVersionInTheHeaderIsRefusedWithoutOpeningIt) {
+    {
+        RawDb raw(dbPath);
+        ASSERT_TRUE(raw.exec(QStringLiteral("PRAGMA user_version = 99")));
+        ASSERT_TRUE(raw.exec(QStringLiteral("PRAGMA wal_checkpoint(TRUNCATE)")));
+        ASSERT_TRUE(raw.exec(QStringLiteral("PRAGMA journal_mode = DELETE")));
+    }
+    expectRefusedAndUntouched(dbPath);
+    EXPECT_FALSE(QFileInfo::exists(dbPath + QStringLiteral("-wal")));
+}
+
 TEST_F(ForeignFile, DirectoryInPlaceOfTheFileIsRefused) {
     const QString path = home->file(QStringLiteral("folder.mdb"));
     QDir().mkpath(path);
