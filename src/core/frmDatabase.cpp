@@ -82,6 +82,8 @@ void frmDatabase::buildLayout() {
     cmdHelp->setObjectName(QStringLiteral("cmdHelp"));
     for (QPushButton* button : {cmdOK, cmdCancel, cmdHelp})
         button->setAutoDefault(false);
+    // Return carries out the chosen option.
+    cmdOK->setDefault(true);
 
     auto* buttons = new QHBoxLayout;
     buttons->addStretch();
@@ -99,6 +101,7 @@ void frmDatabase::buildLayout() {
 
 void frmDatabase::Form_Load() {
     try {
+        adjustSize();
         CenterOnScreen();
     } catch (...) {
         HandleFailure("frmDatabase:Form_Load;");
