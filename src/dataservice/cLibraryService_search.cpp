@@ -9,6 +9,7 @@
 // in GetItems); 0 filters nothing.  Rows come in the order of their ids, text items first.
 // Any match mode other than 0, 1 and 2 raises kErrMissingParameters.
 #include "SearchMatcher.h"
+#include "SearchSchema.h"
 #include "ServiceErrors.h"
 #include "SqliteStore.h"
 #include "TokenCharacters.h"
@@ -62,10 +63,20 @@ VbArray<ItemRow> cLibraryService::Search(int intMatchMode, const QString& strTex
     if (intMatchMode < 0 || intMatchMode > 2)
         RaiseServiceError(kErrMissingParameters, source);
     SqliteStore& db = store(source);
-    const QString indexSql =
-        db.scalar(QStringLiteral("SELECT sql FROM sqlite_master WHERE name = 'SourceCodeSearch'"),
-                  {}, source)
-            .toString();
+    QString indexSql;
+    bool hasRowIndex = false;
+    {
+        QSqlQuery schema =
+            db.run(QStringLiteral("SELECT name, sql FROM sqlite_master WHERE name IN "
+                                  "('SourceCodeSearch', ?)"),
+                   {QLatin1String(kSearchRowIndex)}, source);
+        while (schema.next()) {
+            if (schema.value(0).toString() == QLatin1String("SourceCodeSearch"))
+                indexSql = schema.value(1).toString();
+            else
+                hasRowIndex = true;
+        }
+    }
     TokenCharacters& tokens =
         TokenCharacters::forTokenizer(TokenCharacters::tokenizerOf(indexSql), source);
     const SearchMatcher matcher(intMatchMode, strText, tokens);
@@ -89,9 +100,16 @@ VbArray<ItemRow> cLibraryService::Search(int intMatchMode, const QString& strTex
         // Rows of the index expression, with their text when the rule must confirm them; an
         // empty expression reads every row of the filters.
         const auto candidates = [&](const QString& expression, bool withText) {
-            QString sql = QStringLiteral("SELECT %1%2 FROM SourceCode s WHERE 1")
-                              .arg(QLatin1String(kItemColumns),
-                                   withText ? QLatin1String(kTextColumns) : QLatin1String(""));
+            // Hits without text read their item rows from the dense covering index when the
+            // file has it, not from the wide table rows.
+            const bool covered = hasRowIndex && !withText && !expression.isEmpty();
+            QString sql =
+                QStringLiteral("SELECT %1%2 FROM SourceCode s%3 WHERE 1")
+                    .arg(QLatin1String(kItemColumns),
+                         withText ? QLatin1String(kTextColumns) : QLatin1String(""),
+                         covered
+                             ? QStringLiteral(" INDEXED BY %1").arg(QLatin1String(kSearchRowIndex))
+                             : QString());
             QVariantList binds;
             if (!expression.isEmpty()) {
                 sql += QStringLiteral(" AND s.Id IN (SELECT rowid FROM SourceCodeSearch WHERE "

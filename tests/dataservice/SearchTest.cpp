@@ -1,4 +1,5 @@
 #include "SearchMatcher.h"
+#include "SearchSchema.h"
 #include "TestHome.h"
 #include "TokenCharacters.h"
 #include "cLibraryService.h"
@@ -7,6 +8,8 @@
 
 #include <QRandomGenerator>
 #include <QSet>
+#include <QSqlDatabase>
+#include <QSqlQuery>
 #include <algorithm>
 #include <gtest/gtest.h>
 #include <memory>
@@ -66,6 +69,8 @@ protected:
             found << row.Id;
         return found;
     }
+
+    void expectAgreementWithPlainScan();
 
     std::unique_ptr<test::TestHome> home;
     QString path;
@@ -410,7 +415,7 @@ TEST(SearchPieces, OnlyAsciiWordsAreLeftToTheIndexAlone) {
 
 // Texts built from words that meet at every kind of boundary, searched with pieces cut out of
 // them: the service must answer as the plain reference scan does.
-TEST_F(SearchTest, AnswersEqualAPlainScanForGeneratedTextsAndQueries) {
+void SearchTest::expectAgreementWithPlainScan() {
     const QStringList words{
         QStringLiteral("reg"),        QStringLiteral("Registry"),    QStringLiteral("GetReg"),
         QStringLiteral("dim"),        QStringLiteral("DIM"),         QStringLiteral("x"),
@@ -493,6 +498,26 @@ TEST_F(SearchTest, AnswersEqualAPlainScanForGeneratedTextsAndQueries) {
     // The generated queries must exercise hits as well as misses.
     EXPECT_GT(withHits, queries / 4);
     EXPECT_LT(withHits, queries);
+}
+
+TEST_F(SearchTest, AnswersEqualAPlainScanForGeneratedTextsAndQueries) {
+    expectAgreementWithPlainScan();
+}
+
+TEST_F(SearchTest, AnswersStayTheSameWhenItemRowsComeFromTheCoveringIndex) {
+    {
+        QSqlDatabase raw =
+            QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), QStringLiteral("search_raw"));
+        raw.setDatabaseName(path);
+        ASSERT_TRUE(raw.open());
+        for (const QString& statement : SearchSchemaStatements()) {
+            QSqlQuery query(raw);
+            ASSERT_TRUE(query.exec(statement)) << statement.toStdString();
+        }
+        raw.close();
+    }
+    QSqlDatabase::removeDatabase(QStringLiteral("search_raw"));
+    expectAgreementWithPlainScan();
 }
 
 } // namespace
