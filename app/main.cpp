@@ -12,7 +12,7 @@
 namespace {
 
 // The program's version, as the About window and the platform show it.
-constexpr const char kVersion[] = "1.0.0";
+constexpr const char kVersion[] = QS_VERSION;
 
 // Files shipped beside the executable (help pages, the sample API file) are
 // copied into the program's folder, keeping their sub-folders, when they are

@@ -168,7 +168,7 @@ void SqliteStore::create(const QString& path, const QString& settingsFile, const
             store.run(QStringLiteral("INSERT INTO LibraryInfo (Name, Value) VALUES "
                                      "('Application', 'Quillstone'), ('Created', ?), "
                                      "('SettingsFile', ?)"),
-                      {now, settingsFile}, source);
+                      {now, settingsFile.isNull() ? QStringLiteral("") : settingsFile}, source);
         } catch (...) {
             store.mDb.close();
             for (const QString& suffix :

@@ -79,6 +79,12 @@ TEST_F(CreateDatabase, MakesMissingFoldersAndAnEmptyLibrary) {
     EXPECT_EQ(raw.value(QStringLiteral("PRAGMA journal_mode")).toString(), QStringLiteral("wal"));
 }
 
+TEST_F(CreateDatabase, WorksWithoutASettingsFile) {
+    const QString path = home->file(QStringLiteral("NoSettings.mdb"));
+    cLibraryService(dbPath).CreateDatabase(path, QString());
+    EXPECT_EQ(cSecurityService(path).GetUsers().UBound(), 0);
+}
+
 TEST_F(CreateDatabase, RefusesAnExistingFileAndLeavesIt) {
     addCode(QStringLiteral("Precious"));
     const QByteArray before = FileHash(dbPath);
