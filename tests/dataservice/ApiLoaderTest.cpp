@@ -12,7 +12,7 @@ namespace {
 
 QString sampleFile() {
     return qEnvironmentVariable("QS_SOURCE_DIR", QStringLiteral(".")) +
-           QStringLiteral("/data/Win32api.txt");
+           QStringLiteral("/data/Datafiles/Win32api.txt");
 }
 
 QString writeApi(const qs::test::TestHome& home, const QByteArray& text) {
