@@ -4,15 +4,12 @@
 // --db     library file (default: quillstone-bench-N.mdb in the temporary folder)
 // --reuse  keep an existing file at --db instead of building it again
 // --runs   timed runs of each operation; the median is printed (default 7)
-// --proposed-indexes  add the covering indexes of SearchSchemaStatements to the library first
 #include "Bench.h"
 #include "Figures.h"
 #include "PlainScan.h"
 #include "SyntheticLibrary.h"
 
 #include "QsError.h"
-#include "SearchSchema.h"
-#include "SqliteStore.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -26,7 +23,6 @@ int main(int argc, char* argv[]) {
     BenchContext context;
     context.items = 100000;
     bool reuse = false;
-    bool proposedIndexes = false;
     const QStringList args = app.arguments();
     for (int i = 1; i < args.size(); ++i) {
         const QString& arg = args.at(i);
@@ -39,11 +35,8 @@ int main(int argc, char* argv[]) {
             context.runs = qMax(1, args.at(++i).toInt());
         } else if (arg == QLatin1String("--reuse")) {
             reuse = true;
-        } else if (arg == QLatin1String("--proposed-indexes")) {
-            proposedIndexes = true;
         } else {
-            std::fprintf(stderr, "usage: bench [--items N] [--db path] [--reuse] [--runs R] "
-                                 "[--proposed-indexes]\n");
+            std::fprintf(stderr, "usage: bench [--items N] [--db path] [--reuse] [--runs R]\n");
             return 2;
         }
     }
@@ -62,15 +55,6 @@ int main(int argc, char* argv[]) {
             PrintFigure(context, QStringLiteral("build_library"), ms, -1,
                         PlainScan::itemCount(context.path), true,
                         {{QStringLiteral("db"), QStringLiteral("\"%1\"").arg(context.path)}});
-        }
-        if (proposedIndexes) {
-            const QString source = QStringLiteral("bench:ProposedIndexes;");
-            const double ms = MedianMs(1, [&] {
-                auto store = qs::SqliteStore::open(context.path, source);
-                for (const QString& statement : qs::SearchSchemaStatements())
-                    store->run(statement, {}, source);
-            });
-            PrintFigure(context, QStringLiteral("proposed_indexes"), ms, -1, context.items, true);
         }
         FigureFileSize(context);
         FigureGetItems(context);

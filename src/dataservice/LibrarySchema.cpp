@@ -1,5 +1,7 @@
 #include "LibrarySchema.h"
 
+#include "SearchSchema.h"
+
 namespace qs {
 
 namespace {
@@ -126,7 +128,8 @@ QStringList version1() {
 } // namespace
 
 const QVector<SchemaMigration>& SchemaMigrations() {
-    static const QVector<SchemaMigration> migrations{{1, version1()}};
+    static const QVector<SchemaMigration> migrations{{1, version1()},
+                                                     {2, SearchSchemaStatements()}};
     return migrations;
 }
 

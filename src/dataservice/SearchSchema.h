@@ -4,8 +4,7 @@
 
 namespace qs {
 
-// A proposed schema step for the list calls at library scale; the migrations list of
-// LibrarySchema takes it in as its next version when that list adds it.
+// Schema version 2: covering indexes for the list calls at library scale.
 //
 // SourceCode rows are a few KB each, so every row read for a list costs a page of its own.
 // Two covering indexes keep the item-row columns dense:

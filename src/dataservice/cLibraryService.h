@@ -84,12 +84,15 @@ public:
     VbArray<UserRow> GetUsers(bool blnFlag = false);
     // Every author, ordered by last name, first name, id.  The flag changes nothing.
     VbArray<AuthorRow> GetAuthors(bool blnFlag = false);
-    // Text items whose description, code, notes or example hold strText, case-insensitively:
-    // intMatchMode 0 the exact phrase, 1 any of its words, 2 all of its words; filtered by
-    // category, status (1, 2; 0 both) and type (0 any), each 0 filtering nothing.  Folder rows
-    // come back with IsFolder set.  No hits (or no words) gives an empty list.  Answers are the
-    // same as a plain scan of the rows would give, for any text.  Defined in
-    // cLibraryService_search.cpp.
+    // Items whose fields hold strText at the start of a word, case-insensitively: text items'
+    // description, code, notes and example, stored files' description and notes (these only
+    // when the type filter is 0, 101 or 102).  intMatchMode 0 the exact phrase (trimmed),
+    // 1 any of its blank-separated words, 2 all of them, in any fields; a word that begins with
+    // punctuation matches anywhere, and "%", "_" and "\" are plain characters.  Filtered by
+    // category, status (1, 2; 0 both; stored files pass every status) and type (0 any).
+    // Folder rows whose own fields match come back with IsFolder set.  Rows in id order, text
+    // items first.  No hits, or no words, gives an empty list.  Answers are the same as a plain
+    // scan of the rows would give, for any text.  Defined in cLibraryService_search.cpp.
     VbArray<ItemRow> Search(int intMatchMode, const QString& strText, int lngCategoryId,
                             int intStatus, int lngCodeTypeId, int reserved1 = 0, int reserved2 = 0);
     // Makes a new, empty library at the path with the fixed rows: access types 1 "Admin",

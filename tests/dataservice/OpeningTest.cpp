@@ -151,3 +151,24 @@ TEST_F(ForeignFile, DirectoryInPlaceOfTheFileIsRefused) {
     const QsError e = Raised([&] { cSecurityService(path).GetUsers(); });
     EXPECT_EQ(e.number(), kErrDatabaseCorrupt);
 }
+
+TEST_F(Opening, LibraryOfTheFirstVersionIsBroughtUpToDateAndKeepsItsRows) {
+    const int id = addCode(QStringLiteral("Kept through the upgrade"));
+    {
+        // Take the file back to how the first version of the schema left it.
+        RawDb raw(dbPath);
+        ASSERT_TRUE(raw.exec(QStringLiteral("DROP INDEX SourceCode_Rows")));
+        ASSERT_TRUE(raw.exec(QStringLiteral("DROP INDEX SourceCode_Node")));
+        ASSERT_TRUE(raw.exec(QStringLiteral("DELETE FROM SchemaVersion WHERE Version > 1")));
+        ASSERT_TRUE(raw.exec(QStringLiteral("PRAGMA user_version = 1")));
+    }
+    EXPECT_EQ(cLibraryService(dbPath).GetSourceCode(id).Description(),
+              QStringLiteral("Kept through the upgrade"));
+    RawDb raw(dbPath);
+    EXPECT_EQ(raw.value(QStringLiteral("SELECT MAX(Version) FROM SchemaVersion")).toInt(), 2);
+    EXPECT_EQ(raw.value(QStringLiteral("PRAGMA user_version")).toInt(), 2);
+    EXPECT_EQ(raw.value(QStringLiteral("SELECT COUNT(*) FROM sqlite_master WHERE name IN "
+                                       "('SourceCode_Rows', 'SourceCode_Node')"))
+                  .toInt(),
+              2);
+}
