@@ -1,3 +1,4 @@
+#include "DataServiceFixture.h"
 #include "QsError.h"
 #include "TestHome.h"
 #include "cApiLoader.h"
@@ -15,14 +16,6 @@ QString sampleFile() {
            QStringLiteral("/data/Datafiles/Win32api.txt");
 }
 
-QString writeApi(const qs::test::TestHome& home, const QByteArray& text) {
-    QFile f(home.file("api.txt"));
-    if (!f.open(QIODevice::WriteOnly))
-        ADD_FAILURE() << "cannot write";
-    f.write(text);
-    return f.fileName();
-}
-
 QStringList names(const VbArray<QString>& a) {
     QStringList out;
     for (int i = 1; i <= a.UBound(); ++i)
@@ -30,12 +23,24 @@ QStringList names(const VbArray<QString>& a) {
     return out;
 }
 
+class ApiLoader : public ::testing::Test {
+protected:
+    QString write(const QByteArray& text) {
+        QFile f(home.file("api.txt"));
+        if (!f.open(QIODevice::WriteOnly))
+            ADD_FAILURE() << "cannot write";
+        f.write(text);
+        return f.fileName();
+    }
+    qs::test::TestHome home;
+    cApiLoader api;
+};
+
 } // namespace
 
-TEST(ApiLoader, ShippedSampleHasHundredsOfEachKind) {
+TEST_F(ApiLoader, ShippedSampleHasHundredsOfEachKind) {
     if (!QFile::exists(sampleFile()))
         GTEST_SKIP() << "QS_SOURCE_DIR does not lead to the sources";
-    cApiLoader api;
     api.LoadFile(sampleFile());
     EXPECT_GE(api.ConstantNames().UBound(), 200);
     EXPECT_GE(api.DeclareNames().UBound(), 200);
@@ -54,23 +59,20 @@ TEST(ApiLoader, ShippedSampleHasHundredsOfEachKind) {
     EXPECT_TRUE(api.Types().value("RECT").endsWith("\r\nEnd Type"));
 }
 
-TEST(ApiLoader, EachKindIsKeyedByNameWithItsTextWithoutScope) {
-    qs::test::TestHome home;
-    cApiLoader api;
-    api.LoadFile(writeApi(home,
-                          "' header comment\r\n"
-                          "\r\n"
-                          "Public Const WM_CLOSE = &H10\r\n"
-                          "Const MAX_LEN& = 260\r\n"
-                          "Private Const SAMPLE_TEXT As String = \"a = b\"\r\n"
-                          "Public Declare Function GetTickCount Lib \"kernel32\" () As Long\r\n"
-                          "Declare Sub Sleep Lib \"kernel32\" (ByVal ms As Long)\r\n"
-                          "Public Type POINTAPI\r\n"
-                          "    x As Long ' across\r\n"
-                          "\r\n"
-                          "    ' a comment inside\r\n"
-                          "    y As Long\r\n"
-                          "End Type\r\n"));
+TEST_F(ApiLoader, EachKindIsKeyedByNameWithItsTextWithoutScope) {
+    api.LoadFile(write("' header comment\r\n"
+                       "\r\n"
+                       "Public Const WM_CLOSE = &H10\r\n"
+                       "Const MAX_LEN& = 260\r\n"
+                       "Private Const SAMPLE_TEXT As String = \"a = b\"\r\n"
+                       "Public Declare Function GetTickCount Lib \"kernel32\" () As Long\r\n"
+                       "Declare Sub Sleep Lib \"kernel32\" (ByVal ms As Long)\r\n"
+                       "Public Type POINTAPI\r\n"
+                       "    x As Long ' across\r\n"
+                       "\r\n"
+                       "    ' a comment inside\r\n"
+                       "    y As Long\r\n"
+                       "End Type\r\n"));
     EXPECT_EQ(names(api.ConstantNames()), (QStringList{"MAX_LEN", "SAMPLE_TEXT", "WM_CLOSE"}));
     EXPECT_EQ(api.Constants().value("WM_CLOSE"), "Const WM_CLOSE = &H10");
     EXPECT_EQ(api.Constants().value("SAMPLE_TEXT"), "Const SAMPLE_TEXT As String = \"a = b\"");
@@ -82,39 +84,34 @@ TEST(ApiLoader, EachKindIsKeyedByNameWithItsTextWithoutScope) {
               "Type POINTAPI\r\n    x As Long ' across\r\n    y As Long\r\nEnd Type");
 }
 
-TEST(ApiLoader, ContinuationsAreJoinedIntoOneStatement) {
-    qs::test::TestHome home;
-    cApiLoader api;
-    api.LoadFile(writeApi(home,
-                          "Declare Function SendMessage Lib \"user32\" Alias \"SendMessageA\" _\n"
-                          "    (ByVal hwnd As Long, _\n"
-                          "\tByVal wMsg As Long) As Long\n"
-                          "Const A = 1 + _\n"
-                          "  2\n"));
+TEST_F(ApiLoader, ContinuationsAreJoinedIntoOneStatement) {
+    api.LoadFile(write("Declare Function SendMessage Lib \"user32\" Alias \"SendMessageA\" _\n"
+                       "    (ByVal hwnd As Long, _\n"
+                       "\tByVal wMsg As Long) As Long\n"
+                       "Const A = 1 + _\n"
+                       "  2\n"));
     EXPECT_EQ(api.Declares().value("SendMessage"),
               "Declare Function SendMessage Lib \"user32\" Alias \"SendMessageA\" (ByVal hwnd As "
               "Long, ByVal wMsg As Long) As Long");
     EXPECT_EQ(api.Constants().value("A"), "Const A = 1 + 2");
 }
 
-TEST(ApiLoader, MalformedLinesAreSkippedAndTheRestIsRead) {
-    qs::test::TestHome home;
-    cApiLoader api;
-    api.LoadFile(writeApi(home, "Const = 5\r\n"
-                                "Const NOVALUE =\r\n"
-                                "Declare Function Lib \"x\" ()\r\n"
-                                "Declare Function NoLib (ByVal a As Long)\r\n"
-                                "garbage line ### \r\n"
-                                "End Type\r\n"
-                                "Type BROKEN\r\n"
-                                "    a As Long\r\n"
-                                "Type GOOD\r\n"
-                                "    b As Long\r\n"
-                                "End Type\r\n"
-                                "Const GOOD_ONE = 1\r\n"
-                                "Const good_one = 2\r\n"
-                                "Type OPEN_AT_END\r\n"
-                                "    c As Long\r\n"));
+TEST_F(ApiLoader, MalformedLinesAreSkippedAndTheRestIsRead) {
+    api.LoadFile(write("Const = 5\r\n"
+                       "Const NOVALUE =\r\n"
+                       "Declare Function Lib \"x\" ()\r\n"
+                       "Declare Function NoLib (ByVal a As Long)\r\n"
+                       "garbage line ### \r\n"
+                       "End Type\r\n"
+                       "Type BROKEN\r\n"
+                       "    a As Long\r\n"
+                       "Type GOOD\r\n"
+                       "    b As Long\r\n"
+                       "End Type\r\n"
+                       "Const GOOD_ONE = 1\r\n"
+                       "Const good_one = 2\r\n"
+                       "Type OPEN_AT_END\r\n"
+                       "    c As Long\r\n"));
     EXPECT_EQ(names(api.ConstantNames()), QStringList{"GOOD_ONE"});
     EXPECT_EQ(api.Constants().value("GOOD_ONE"), "Const GOOD_ONE = 1");
     EXPECT_EQ(api.DeclareNames().UBound(), 0);
@@ -122,45 +119,32 @@ TEST(ApiLoader, MalformedLinesAreSkippedAndTheRestIsRead) {
     EXPECT_EQ(names(api.TypeNames()), QStringList{"GOOD"});
 }
 
-TEST(ApiLoader, NamesAreSortedWithCaseIgnored) {
-    qs::test::TestHome home;
-    cApiLoader api;
-    api.LoadFile(
-        writeApi(home, "Const beta = 2\nConst Alpha = 1\nConst GAMMA = 3\nConst alpha2 = 4\n"));
+TEST_F(ApiLoader, NamesAreSortedWithCaseIgnored) {
+    api.LoadFile(write("Const beta = 2\nConst Alpha = 1\nConst GAMMA = 3\nConst alpha2 = 4\n"));
     EXPECT_EQ(names(api.ConstantNames()), (QStringList{"Alpha", "alpha2", "beta", "GAMMA"}));
 }
 
-TEST(ApiLoader, TextIsReadInTheAnsiCodePageOrUtf8WithBom) {
-    qs::test::TestHome home;
-    cApiLoader api;
-    api.LoadFile(writeApi(home, "Const EURO_SIGN = \"\x80\xe9\"\r\n"));
+TEST_F(ApiLoader, TextIsReadInTheAnsiCodePageOrUtf8WithBom) {
+    api.LoadFile(write("Const EURO_SIGN = \"\x80\xe9\"\r\n"));
     EXPECT_EQ(api.Constants().value("EURO_SIGN"),
               QString::fromUtf8("Const EURO_SIGN = \"\xe2\x82\xac\xc3\xa9\""));
-    api.LoadFile(writeApi(home, "\xef\xbb\xbf"
-                                "Const EURO_SIGN = \"\xe2\x82\xac\"\r\n"));
+    api.LoadFile(write("\xef\xbb\xbf"
+                       "Const EURO_SIGN = \"\xe2\x82\xac\"\r\n"));
     EXPECT_EQ(api.Constants().value("EURO_SIGN"),
               QString::fromUtf8("Const EURO_SIGN = \"\xe2\x82\xac\""));
 }
 
-TEST(ApiLoader, MissingFileRaisesAndLeavesNothingOfTheLastLoad) {
-    qs::test::TestHome home;
-    cApiLoader api;
-    api.LoadFile(writeApi(home, "Const A = 1\n"));
-    try {
-        api.LoadFile(home.file("nowhere.txt"));
-        FAIL() << "no error";
-    } catch (const QsError& e) {
-        EXPECT_EQ(e.number(), 53);
-        EXPECT_EQ(e.source(), "cApiLoader:LoadFile;");
-    }
+TEST_F(ApiLoader, MissingFileRaisesAndLeavesNothingOfTheLastLoad) {
+    api.LoadFile(write("Const A = 1\n"));
+    const QsError e = qs::test::Raised([&] { api.LoadFile(home.file("nowhere.txt")); });
+    EXPECT_EQ(e.number(), 53);
+    EXPECT_EQ(e.source(), "cApiLoader:LoadFile;");
     EXPECT_EQ(api.ConstantNames().UBound(), 0);
     EXPECT_TRUE(api.Constants().isEmpty());
 }
 
-TEST(ApiLoader, EmptyFileGivesEmptyArrays) {
-    qs::test::TestHome home;
-    cApiLoader api;
-    api.LoadFile(writeApi(home, ""));
+TEST_F(ApiLoader, EmptyFileGivesEmptyArrays) {
+    api.LoadFile(write(""));
     EXPECT_EQ(api.TypeNames().LBound(), 0);
     EXPECT_EQ(api.TypeNames().UBound(), 0);
 }

@@ -42,16 +42,11 @@ TEST_F(Authors, CreditedAuthorIsNotDeleted) {
 
 TEST_F(Authors, DeletedAuthorLeavesRevisionLinesWithoutNames) {
     const int author = addAuthor(QStringLiteral("Gone"), QStringLiteral("Soon"));
-    cSourceCode item(dbPath);
-    item.BeginEdit(0);
-    item.CategoryId(1);
-    item.CodeTypeId(201);
+    cSourceCode item = newCode();
     item.Revisions().Add(0).AuthorId(author);
     const int id = item.Save();
     cAuthor record = *cLibraryService(dbPath).GetAuthor(author);
-    record.BeginEdit(0);
-    record.Deleted(true);
-    record.Save();
+    DeleteRecord(record);
     const cSourceCode back = cLibraryService(dbPath).GetSourceCode(id);
     ASSERT_EQ(back.Revisions().Count(), 1);
     EXPECT_TRUE(back.Revisions().Item(1).AuthorLastName().isEmpty());

@@ -19,12 +19,13 @@ protected:
     }
 };
 
-TEST_F(Bookmarks, EachUserSeesOnlyHisOwnInBothTables) {
+TEST_F(Bookmarks, EachUserSeesOnlyHisOwnInBothTablesOnceEach) {
     const int code = addCode(QStringLiteral("Snippet"), 1, 201, 1);
     const int file = addFile(QStringLiteral("Paper"), 1, 101);
     cLibraryService library(dbPath);
     library.AddBookmark(kCode, code, QStringLiteral("ann"), true);
     library.AddBookmark(kFile, file, QStringLiteral("ann"), true);
+    library.AddBookmark(kFile, file, QStringLiteral("ann"), true); // a second time adds nothing
     library.AddBookmark(kFile, file, QStringLiteral("bob"), true);
 
     const auto annCode = library.GetBookmarks(kCode, QStringLiteral("ann"), true);
@@ -39,14 +40,6 @@ TEST_F(Bookmarks, EachUserSeesOnlyHisOwnInBothTables) {
     const auto bobCode = library.GetBookmarks(kCode, QStringLiteral("bob"));
     EXPECT_EQ(bobCode.LBound(), 0);
     EXPECT_EQ(bobCode.UBound(), 0);
-}
-
-TEST_F(Bookmarks, SecondBookmarkOfTheSameItemAddsNothing) {
-    const int file = addFile(QStringLiteral("Paper"));
-    cLibraryService library(dbPath);
-    library.AddBookmark(kFile, file, QStringLiteral("ann"));
-    library.AddBookmark(kFile, file, QStringLiteral("ann"));
-    EXPECT_EQ(library.GetBookmarks(kFile, QStringLiteral("ann")).UBound(), 1);
 }
 
 TEST_F(Bookmarks, BookmarksComeInTheOrderTheyWereAdded) {

@@ -66,6 +66,18 @@ int DataServiceTest::addAuthor(const QString& first, const QString& last) {
     return author.AuthorId();
 }
 
+cSourceCode DataServiceTest::newCode(int codeTypeId) const {
+    cSourceCode item(dbPath);
+    item.BeginEdit(0);
+    item.CategoryId(1);
+    item.CodeTypeId(codeTypeId);
+    return item;
+}
+
+int DataServiceTest::rows(const QString& table) const {
+    return RawDb(dbPath).value(QStringLiteral("SELECT COUNT(*) FROM %1").arg(table)).toInt();
+}
+
 RawDb::RawDb(const QString& path) {
     static int counter = 0;
     mName = QStringLiteral("raw_%1").arg(++counter);
@@ -96,10 +108,23 @@ bool RawDb::exec(const QString& sql) {
 }
 
 QByteArray FileHash(const QString& path) {
+    // A missing file has no hash, so it never equals the hash of an empty one.
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return QByteArray();
     return QCryptographicHash::hash(file.readAll(), QCryptographicHash::Sha256);
+}
+
+QByteArray ReadFile(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QString WriteFile(const QString& path, const QByteArray& bytes) {
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+        ADD_FAILURE() << "cannot write " << path.toStdString();
+    return path;
 }
 
 } // namespace qs::test

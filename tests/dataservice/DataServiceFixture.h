@@ -27,6 +27,10 @@ protected:
     void addUser(const QString& userId, const QString& password = QStringLiteral("pw"),
                  short level = 1);
     int addAuthor(const QString& first, const QString& last);
+    // A new text item of the first category, open for editing.
+    cSourceCode newCode(int codeTypeId = 201) const;
+    // Rows of a table, counted from outside the service.
+    int rows(const QString& table) const;
 
     std::unique_ptr<TestHome> home;
     QString dbPath;
@@ -45,6 +49,16 @@ private:
 };
 
 QByteArray FileHash(const QString& path);
+QByteArray ReadFile(const QString& path);
+// Writes the bytes to the path and returns the path; a failure fails the test.
+QString WriteFile(const QString& path, const QByteArray& bytes);
+
+// Marks a stored record deleted and saves it.
+template <class R> void DeleteRecord(R& record) {
+    record.BeginEdit(0);
+    record.Deleted(true);
+    record.Save();
+}
 
 // Runs f and returns the QsError it raised; fails the test when nothing was raised.
 template <class F> QsError Raised(F&& f) {

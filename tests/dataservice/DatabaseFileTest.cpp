@@ -79,12 +79,6 @@ TEST_F(CreateDatabase, MakesMissingFoldersAndAnEmptyLibrary) {
     EXPECT_EQ(raw.value(QStringLiteral("PRAGMA journal_mode")).toString(), QStringLiteral("wal"));
 }
 
-TEST_F(CreateDatabase, WorksWithoutASettingsFile) {
-    const QString path = home->file(QStringLiteral("NoSettings.mdb"));
-    cLibraryService(dbPath).CreateDatabase(path, QString());
-    EXPECT_EQ(cSecurityService(path).GetUsers().UBound(), 0);
-}
-
 TEST_F(CreateDatabase, RefusesAnExistingFileAndLeavesIt) {
     addCode(QStringLiteral("Precious"));
     const QByteArray before = FileHash(dbPath);
@@ -92,7 +86,7 @@ TEST_F(CreateDatabase, RefusesAnExistingFileAndLeavesIt) {
     EXPECT_EQ(e.number(), kErrStorage);
     EXPECT_EQ(e.source(), QStringLiteral("cLibraryService:CreateDatabase;"));
     EXPECT_EQ(FileHash(dbPath), before);
-    EXPECT_EQ(countRows(dbPath, QStringLiteral("SourceCode")), 1);
+    EXPECT_EQ(rows(QStringLiteral("SourceCode")), 1);
 }
 
 using Backup = DataServiceTest;
@@ -168,16 +162,14 @@ TEST_F(Compact, KeepsEveryRowAndGivesBackSpace) {
         ids << saveItem(dbPath, QStringLiteral("item %1").arg(i), 2);
     for (int i = 0; i < 60; i += 2) {
         cSourceCode item = library.GetSourceCode(ids[i]);
-        item.BeginEdit(0);
-        item.Deleted(true);
-        item.Save();
+        DeleteRecord(item);
     }
     library.AddBookmark(QStringLiteral("BkMark_SrcCode"), ids[1], QStringLiteral("ann"));
     const QStringList tables{"SourceCode", "RevHist_SrcCode", "BkMark_SrcCode",
                              "Users",      "Category",        "AccessType"};
     QList<int> before;
     for (const QString& table : tables)
-        before << countRows(dbPath, table);
+        before << rows(table);
     {
         RawDb raw(dbPath);
         raw.exec(QStringLiteral("PRAGMA wal_checkpoint(TRUNCATE)"));
@@ -187,7 +179,7 @@ TEST_F(Compact, KeepsEveryRowAndGivesBackSpace) {
     library.CompactDatabase(dbPath);
 
     for (int i = 0; i < tables.size(); ++i)
-        EXPECT_EQ(countRows(dbPath, tables[i]), before[i]) << tables[i].toStdString();
+        EXPECT_EQ(rows(tables[i]), before[i]) << tables[i].toStdString();
     EXPECT_LT(QFileInfo(dbPath).size(), sizeBefore);
     expectConsistent(dbPath, 2);
     EXPECT_EQ(library.GetSourceCode(ids[59]).Revisions().Count(), 2);
@@ -204,10 +196,8 @@ TEST_F(SharedFile, TwoServiceObjectsSeeEachOthersSaves) {
     const int category = one.AddCategory(QStringLiteral("From one"));
     EXPECT_EQ(two.GetLookup(QStringLiteral("Category")).UBound(), 2);
 
-    cSourceCode item(dbPath);
-    item.BeginEdit(0);
+    cSourceCode item = newCode(202);
     item.CategoryId(category);
-    item.CodeTypeId(202);
     item.Description(QStringLiteral("From a record"));
     const int id = item.Save();
     EXPECT_EQ(one.GetSourceCode(id).Description(), QStringLiteral("From a record"));
@@ -253,13 +243,13 @@ TEST_F(SharedFile, ProcessKilledBeforeItsCommitLeavesTheLastCommittedState) {
     EXPECT_TRUE(WIFSIGNALED(status));
 
     expectConsistent(dbPath, 4);
-    const auto rows =
+    const auto items =
         cLibraryService(dbPath).GetItems(QStringLiteral("SourceCode"), 0, 0, 0, 0, 0, 0, 0);
-    ASSERT_EQ(rows.UBound(), 1);
-    EXPECT_EQ(rows(1).Description, QStringLiteral("committed"));
+    ASSERT_EQ(items.UBound(), 1);
+    EXPECT_EQ(items(1).Description, QStringLiteral("committed"));
     // The file takes the next save at once: the dead writer holds no lock.
     saveItem(dbPath, QStringLiteral("after"), 4);
-    EXPECT_EQ(countRows(dbPath, QStringLiteral("SourceCode")), 2);
+    EXPECT_EQ(rows(QStringLiteral("SourceCode")), 2);
 }
 
 TEST_F(SharedFile, ProcessKilledAtAnyMomentOfASaveLoopLosesNoCommittedSave) {
@@ -293,5 +283,5 @@ TEST_F(SharedFile, ProcessKilledAtAnyMomentOfASaveLoopLosesNoCommittedSave) {
     ASSERT_EQ(committed, 15);
 
     expectConsistent(dbPath, kRevisions);
-    EXPECT_GE(countRows(dbPath, QStringLiteral("SourceCode")), committed);
+    EXPECT_GE(rows(QStringLiteral("SourceCode")), committed);
 }

@@ -13,15 +13,12 @@ using namespace qs::test;
 
 namespace {
 
-QByteArray readAll(const QString& path) {
-    QFile f(path);
-    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
-}
-
-void writeAll(const QString& path, const QByteArray& bytes) {
-    QFile f(path);
-    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-    f.write(bytes);
+// The text pdftotext reads back from a PDF.
+QString pdfText(const QString& pdftotext, QStringList arguments) {
+    QProcess p;
+    p.start(pdftotext, arguments << QStringLiteral("-"));
+    EXPECT_TRUE(p.waitForFinished(60000));
+    return QString::fromUtf8(p.readAllStandardOutput());
 }
 
 // One SourceItem as read back: its id and its fields, revisions as lists of fields.
@@ -35,7 +32,7 @@ struct ReadItem {
 // Parses an export with a real XML reader; a parse error fails the test.
 QVector<ReadItem> parseExport(const QString& path) {
     QVector<ReadItem> items;
-    QXmlStreamReader r(readAll(path));
+    QXmlStreamReader r(ReadFile(path));
     EXPECT_TRUE(r.readNextStartElement());
     EXPECT_EQ(r.name(), QLatin1String("SourceItems"));
     while (r.readNextStartElement()) {
@@ -66,7 +63,7 @@ QVector<ReadItem> parseExport(const QString& path) {
 
 QStringList markerLines(const QString& path) {
     QStringList hits;
-    for (const QByteArray& line : readAll(path).split('\n')) {
+    for (const QByteArray& line : ReadFile(path).split('\n')) {
         if (line.contains("<SourceItem SourceId = "))
             hits << QString::fromUtf8(line.trimmed());
     }
@@ -117,7 +114,7 @@ TEST_F(Export, XmlItemStartsWithTheMarkerLineAndEscapesEveryField) {
     EXPECT_EQ(items[0].fields["Notes"], "Notes with ]]> and &amp;");
     EXPECT_EQ(items[0].fields["CodeTypeId"], "201");
     EXPECT_FALSE(items[0].hasRevisions);
-    EXPECT_TRUE(readAll(path).contains("\r\n</SourceItems>\r\n"));
+    EXPECT_TRUE(ReadFile(path).contains("\r\n</SourceItems>\r\n"));
 }
 
 TEST_F(Export, XmlCarriesRevisionsOnlyWhenAsked) {
@@ -163,17 +160,17 @@ TEST_F(Export, AppendingToAFileThatIsNoExportRaisesAndLeavesItAlone) {
         "<?xml version=\"1.0\" encoding=\"ISO-8859-1\"?>\r\n<SourceItems>\r\n</SourceItems>\r\n"};
     for (const QByteArray& bytes : strangers) {
         const QString path = home->file("stranger.xml");
-        writeAll(path, bytes);
+        WriteFile(path, bytes);
         const QsError e = Raised([&] { rec.ExportXml(path, true, false); });
         EXPECT_EQ(e.source(), "cSourceCode:ExportXml;");
-        EXPECT_EQ(readAll(path), bytes);
+        EXPECT_EQ(ReadFile(path), bytes);
     }
 }
 
 TEST_F(Export, WithoutAppendAnyExistingFileIsReplaced) {
     const cSourceCode rec = item(QStringLiteral("Fresh"), QStringLiteral("a"), 0);
     const QString path = home->file("old.xml");
-    writeAll(path, "not xml at all");
+    WriteFile(path, "not xml at all");
     rec.ExportXml(path, false, false);
     ASSERT_EQ(parseExport(path).size(), 1);
 }
@@ -184,7 +181,7 @@ TEST_F(Export, TextIsWindows1252WithCrLfLineEnds) {
     rec.ExportText(path, QString::fromUtf8("one\ntwo\r\nthree\rfour \xe2\x82\xac\xc3\xa9\xc3\xbc"
                                            "\xe2\x80\x94\xe2\x80\x9cq\xe2\x80\x9d\xe4\xb8\xad"
                                            "\xf0\x9f\x98\x80."));
-    EXPECT_EQ(readAll(path),
+    EXPECT_EQ(ReadFile(path),
               QByteArray("one\r\ntwo\r\nthree\r\nfour \x80\xe9\xfc\x97\x93q\x94??."));
 }
 
@@ -218,12 +215,9 @@ TEST_F(Export, PdfTextComesBackPaginatedWithPageNumbers) {
     const cSourceCode rec = item(QStringLiteral("Pdf"), QStringLiteral("a"), 0);
     const QString path = home->file("out.pdf");
     rec.ExportPdf(path, lines.join(QStringLiteral("\r\n")));
-    ASSERT_TRUE(readAll(path).startsWith("%PDF-"));
+    ASSERT_TRUE(ReadFile(path).startsWith("%PDF-"));
 
-    QProcess p;
-    p.start(pdftotext, {QStringLiteral("-layout"), path, QStringLiteral("-")});
-    ASSERT_TRUE(p.waitForFinished(60000));
-    const QString text = QString::fromUtf8(p.readAllStandardOutput());
+    const QString text = pdfText(pdftotext, {QStringLiteral("-layout"), path});
     int pages = 0;
     for (int n = 1; n < 10; ++n) {
         if (text.contains(QStringLiteral("Page %1 of").arg(n)))
@@ -252,8 +246,5 @@ TEST_F(Export, PdfOfEmptyTextIsOneNumberedPage) {
     const cSourceCode rec = item(QStringLiteral("Pdf"), QStringLiteral("a"), 0);
     const QString path = home->file("empty.pdf");
     rec.ExportPdf(path, QString());
-    QProcess p;
-    p.start(pdftotext, {path, QStringLiteral("-")});
-    ASSERT_TRUE(p.waitForFinished(60000));
-    EXPECT_EQ(QString::fromUtf8(p.readAllStandardOutput()).trimmed(), "Page 1 of 1");
+    EXPECT_EQ(pdfText(pdftotext, {path}).trimmed(), "Page 1 of 1");
 }

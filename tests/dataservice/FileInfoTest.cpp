@@ -1,3 +1,4 @@
+#include "DataServiceFixture.h"
 #include "PeImageBuilder.h"
 #include "QsError.h"
 #include "TestHome.h"
@@ -13,43 +14,48 @@ using namespace qs;
 
 namespace {
 
-QString writeFile(const qs::test::TestHome& home, const QString& name, const QByteArray& bytes) {
-    QFile f(home.file(name));
-    if (!f.open(QIODevice::WriteOnly))
-        ADD_FAILURE() << "cannot write " << name.toStdString();
-    f.write(bytes);
-    return f.fileName();
-}
+class FileInfo : public ::testing::Test {
+protected:
+    QString write(const QString& name, const QByteArray& bytes) {
+        QFile f(home.file(name));
+        if (!f.open(QIODevice::WriteOnly))
+            ADD_FAILURE() << "cannot write " << name.toStdString();
+        f.write(bytes);
+        return f.fileName();
+    }
+    qs::test::TestHome home;
+};
 
 } // namespace
 
-TEST(DosName, NamesThatFitStayAsTheyAreInCapitals) {
-    EXPECT_EQ(cFileInfo::MakeDosName("readme.txt"), "README.TXT");
-    EXPECT_EQ(cFileInfo::MakeDosName("Makefile"), "MAKEFILE");
-    EXPECT_EQ(cFileInfo::MakeDosName("A1$~.C"), "A1$~.C");
+// Names that fit stay as they are in capitals; long or lossy ones keep six characters and a
+// tilde; characters a short name cannot hold become underscores.
+TEST(DosName, FollowsTheEightDotThreeRules) {
+    const std::pair<const char*, const char*> cases[] = {
+        {"readme.txt", "README.TXT"},
+        {"Makefile", "MAKEFILE"},
+        {"A1$~.C", "A1$~.C"},
+        {"My Document.docx", "MYDOCU~1.DOC"},
+        {"LongFileNameWithoutExt", "LONGFI~1"},
+        {"archive.tar.gz", "ARCHIV~1.GZ"},
+        {"page.html", "PAGE~1.HTM"},
+        // A blank alone makes the name lossy, even when what is left would fit.
+        {"a b.txt", "AB~1.TXT"},
+        {".bashrc", "BASHRC~1"},
+        {"a+b=c.txt", "A_B_C~1.TXT"},
+        {"\xc3\x9c"
+         "berblick.pdf",
+         "_BERBL~1.PDF"},
+        {"[x];y,z.t+t", "_X__Y_~1.T_T"},
+    };
+    for (const auto& [name, dos] : cases) {
+        SCOPED_TRACE(name);
+        EXPECT_EQ(cFileInfo::MakeDosName(QString::fromUtf8(name)), dos);
+    }
 }
 
-TEST(DosName, LongOrLossyNamesKeepSixCharactersAndTilde) {
-    EXPECT_EQ(cFileInfo::MakeDosName("My Document.docx"), "MYDOCU~1.DOC");
-    EXPECT_EQ(cFileInfo::MakeDosName("LongFileNameWithoutExt"), "LONGFI~1");
-    EXPECT_EQ(cFileInfo::MakeDosName("archive.tar.gz"), "ARCHIV~1.GZ");
-    EXPECT_EQ(cFileInfo::MakeDosName("page.html"), "PAGE~1.HTM");
-    // A blank alone makes the name lossy, even when what is left would fit.
-    EXPECT_EQ(cFileInfo::MakeDosName("a b.txt"), "AB~1.TXT");
-    EXPECT_EQ(cFileInfo::MakeDosName(".bashrc"), "BASHRC~1");
-}
-
-TEST(DosName, CharactersAShortNameCannotHoldBecomeUnderscores) {
-    EXPECT_EQ(cFileInfo::MakeDosName("a+b=c.txt"), "A_B_C~1.TXT");
-    EXPECT_EQ(cFileInfo::MakeDosName(QString::fromUtf8("\xc3\x9c"
-                                                       "berblick.pdf")),
-              "_BERBL~1.PDF");
-    EXPECT_EQ(cFileInfo::MakeDosName("[x];y,z.t+t"), "_X__Y_~1.T_T");
-}
-
-TEST(FileInfo, CaptureKeepsNamePathSizeAndDates) {
-    qs::test::TestHome home;
-    const QString path = writeFile(home, "Release Notes 2.txt", QByteArray(1536, 'x'));
+TEST_F(FileInfo, CaptureKeepsNamePathSizeAndDates) {
+    const QString path = write("Release Notes 2.txt", QByteArray(1536, 'x'));
     const QDateTime before = QDateTime::currentDateTime().addSecs(-5);
     const cFileInfo info = cFileInfo::Capture(path);
     EXPECT_EQ(info.FileName(), "Release Notes 2.txt");
@@ -62,24 +68,23 @@ TEST(FileInfo, CaptureKeepsNamePathSizeAndDates) {
     EXPECT_FALSE(info.VersionInfo().HasVersionInfo());
 }
 
-TEST(FileInfo, OddNamesAreCapturedWhole) {
-    qs::test::TestHome home;
+TEST_F(FileInfo, OddNamesAreCapturedWhole) {
     const QString accented = QString::fromUtf8("r\xc3\xa9sum\xc3\xa9 f\xc3\xbcr Stra\xc3\x9f"
                                                "e.rtf");
-    const cFileInfo a = cFileInfo::Capture(writeFile(home, accented, "{\\rtf1}"));
+    const cFileInfo a = cFileInfo::Capture(write(accented, "{\\rtf1}"));
     EXPECT_EQ(a.FileName(), accented);
     EXPECT_EQ(a.DosName(), "R_SUM_~1.RTF");
-    const cFileInfo b = cFileInfo::Capture(writeFile(home, "NOTES", "n"));
+    const cFileInfo b = cFileInfo::Capture(write("NOTES", "n"));
     EXPECT_EQ(b.FileName(), "NOTES");
     EXPECT_EQ(b.DosName(), "NOTES");
     EXPECT_EQ(b.FileTypeName(), "File");
-    const cFileInfo c = cFileInfo::Capture(writeFile(home, "  spaced  out  ", ""));
+    const cFileInfo c = cFileInfo::Capture(write("  spaced  out  ", ""));
     EXPECT_EQ(c.FileName(), "  spaced  out  ");
     EXPECT_EQ(c.DosName(), "SPACED~1");
     EXPECT_EQ(c.Size(), 0);
 }
 
-TEST(FileInfo, TypeNameComesFromTheMimeDatabaseOrTheExtension) {
+TEST_F(FileInfo, TypeNameComesFromTheMimeDatabaseOrTheExtension) {
     EXPECT_EQ(cFileInfo::TypeNameOf("x.qzq"), "QZQ File");
     EXPECT_EQ(cFileInfo::TypeNameOf("x"), "File");
     const QMimeType text = QMimeDatabase().mimeTypeForName("text/plain");
@@ -88,14 +93,13 @@ TEST(FileInfo, TypeNameComesFromTheMimeDatabaseOrTheExtension) {
     }
 }
 
-TEST(FileInfo, AttributesFollowPermissionsAndDotNames) {
-    qs::test::TestHome home;
-    const QString locked = writeFile(home, "locked.dat", "1");
+TEST_F(FileInfo, AttributesFollowPermissionsAndDotNames) {
+    const QString locked = write("locked.dat", "1");
     QFile::setPermissions(locked, QFileDevice::ReadOwner | QFileDevice::ReadGroup);
     const cFileInfo ro = cFileInfo::Capture(locked);
     EXPECT_TRUE(ro.ReadOnly());
     EXPECT_FALSE(ro.Hidden());
-    const cFileInfo hidden = cFileInfo::Capture(writeFile(home, ".profile", "2"));
+    const cFileInfo hidden = cFileInfo::Capture(write(".profile", "2"));
     EXPECT_FALSE(hidden.ReadOnly());
     EXPECT_TRUE(hidden.Hidden());
     // No counterpart of these Windows attributes exists here.
@@ -104,24 +108,18 @@ TEST(FileInfo, AttributesFollowPermissionsAndDotNames) {
     EXPECT_FALSE(hidden.Temporary());
 }
 
-TEST(FileInfo, MissingFileOrFolderRaisesFileNotFound) {
-    qs::test::TestHome home;
-    try {
-        cFileInfo::Capture(home.file("nothing here.txt"));
-        FAIL() << "no error";
-    } catch (const QsError& e) {
-        EXPECT_EQ(e.number(), 53);
-        EXPECT_TRUE(e.description().contains("nothing here.txt"));
-    }
+TEST_F(FileInfo, MissingFileOrFolderRaisesFileNotFound) {
+    const QsError e = qs::test::Raised([&] { cFileInfo::Capture(home.file("nothing here.txt")); });
+    EXPECT_EQ(e.number(), 53);
+    EXPECT_TRUE(e.description().contains("nothing here.txt"));
     EXPECT_THROW(cFileInfo::Capture(home.path()), QsError);
     EXPECT_THROW(cFileInfo::Capture(QString()), QsError);
 }
 
-TEST(FileInfo, IconIsAStoredImageOfTheType) {
-    qs::test::TestHome home;
-    const cFileInfo pdf = cFileInfo::Capture(writeFile(home, "a.pdf", "%PDF"));
-    const cFileInfo pdf2 = cFileInfo::Capture(writeFile(home, "b.PDF", "%PDF"));
-    const cFileInfo zip = cFileInfo::Capture(writeFile(home, "c.zip", "PK"));
+TEST_F(FileInfo, IconIsAStoredImageOfTheType) {
+    const cFileInfo pdf = cFileInfo::Capture(write("a.pdf", "%PDF"));
+    const cFileInfo pdf2 = cFileInfo::Capture(write("b.PDF", "%PDF"));
+    const cFileInfo zip = cFileInfo::Capture(write("c.zip", "PK"));
     ASSERT_TRUE(pdf.IconPng().startsWith("\x89PNG"));
     const QImage icon = pdf.IconHandle();
     ASSERT_EQ(icon.size(), QSize(32, 32));
@@ -132,18 +130,11 @@ TEST(FileInfo, IconIsAStoredImageOfTheType) {
     EXPECT_TRUE(cFileInfo().IconHandle().isNull());
 }
 
-TEST(FileInfo, ExecutableCarriesItsVersionBlock) {
-    qs::test::TestHome home;
-    const QString exe = writeFile(home, "tool.exe",
-                                  qs::test::PeImageBuilder::WithStrings({{"FileVersion", "7.1"}}));
-    EXPECT_EQ(cFileInfo::Capture(exe).VersionInfo().FileVersion(), "7.1");
-}
-
-TEST(FileInfo, FactsComeBackAsStored) {
-    qs::test::TestHome home;
-    const QString exe = writeFile(home, "Setup Tool.exe",
-                                  qs::test::PeImageBuilder::WithStrings({{"FileVersion", "7.1"}}));
+TEST_F(FileInfo, FactsComeBackAsStored) {
+    const QString exe =
+        write("Setup Tool.exe", qs::test::PeImageBuilder::WithStrings({{"FileVersion", "7.1"}}));
     const cFileInfo info = cFileInfo::Capture(exe);
+    EXPECT_EQ(info.VersionInfo().FileVersion(), "7.1");
     const SourceFileFacts facts = info.ToFacts();
     EXPECT_EQ(facts.FileTypeName, "exe");
     const cFileInfo back = cFileInfo::FromFacts(facts);
@@ -157,7 +148,7 @@ TEST(FileInfo, FactsComeBackAsStored) {
     EXPECT_TRUE(back.VersionInfo() == info.VersionInfo());
 }
 
-TEST(FileInfo, SizeTextShowsUnitsAndExactBytes) {
+TEST_F(FileInfo, SizeTextShowsUnitsAndExactBytes) {
     EXPECT_EQ(cFileInfo::FormatSize(0), "0 bytes");
     EXPECT_EQ(cFileInfo::FormatSize(1023), "1,023 bytes");
     EXPECT_EQ(cFileInfo::FormatSize(1536), "1.50 KB (1,536 bytes)");
@@ -166,7 +157,7 @@ TEST(FileInfo, SizeTextShowsUnitsAndExactBytes) {
     EXPECT_EQ(cFileInfo::FormatSize(3LL * 1024 * 1024 * 1024), "3.00 GB (3,221,225,472 bytes)");
 }
 
-TEST(FileInfo, DateTextSpellsDayAndMonth) {
+TEST_F(FileInfo, DateTextSpellsDayAndMonth) {
     const QDateTime morning(QDate(2024, 3, 4), QTime(10, 15, 0));
     EXPECT_EQ(cFileInfo::FormatDate(morning), "Monday, March 04, 2024, 10:15:00 AM");
     EXPECT_EQ(cFileInfo::FormatDate(QDateTime(QDate(2001, 12, 31), QTime(23, 5, 9))),

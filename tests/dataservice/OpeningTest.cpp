@@ -97,22 +97,13 @@ protected:
     }
 };
 
-TEST_F(ForeignFile, EmptyFileIsRefusedAndStaysEmpty) {
-    const QString path = home->file(QStringLiteral("empty.mdb"));
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.close();
-    expectRefusedAndUntouched(path);
-    EXPECT_EQ(QFileInfo(path).size(), 0);
-}
-
-TEST_F(ForeignFile, GarbageIsRefused) {
-    const QString path = home->file(QStringLiteral("garbage.mdb"));
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(QByteArray(4096, '\x5a'));
-    file.close();
-    expectRefusedAndUntouched(path);
+TEST_F(ForeignFile, EmptyFileAndGarbageAreRefusedAndKeepTheirSize) {
+    for (const QByteArray& bytes : {QByteArray(), QByteArray(4096, '\x5a')}) {
+        SCOPED_TRACE(bytes.isEmpty() ? "empty file" : "garbage");
+        const QString path = WriteFile(home->file(QStringLiteral("foreign.mdb")), bytes);
+        expectRefusedAndUntouched(path);
+        EXPECT_EQ(QFileInfo(path).size(), bytes.size());
+    }
 }
 
 TEST_F(ForeignFile, AnotherSqliteSchemaIsRefused) {

@@ -1,18 +1,14 @@
+#include "DataServiceFixture.h"
 #include "SearchMatcher.h"
 #include "SearchSchema.h"
-#include "TestHome.h"
 #include "TokenCharacters.h"
-#include "cLibraryService.h"
 #include "cSourceCode.h"
 #include "cSourceFile.h"
 
 #include <QRandomGenerator>
 #include <QSet>
-#include <QSqlDatabase>
-#include <QSqlQuery>
 #include <algorithm>
 #include <gtest/gtest.h>
-#include <memory>
 
 namespace qs {
 namespace {
@@ -26,17 +22,15 @@ struct Item {
     QString description, code, notes, example;
 };
 
-class SearchTest : public ::testing::Test {
+class SearchTest : public test::DataServiceTest {
 protected:
     void SetUp() override {
-        home = std::make_unique<test::TestHome>();
-        path = home->file(QStringLiteral("Search.mdb"));
-        cLibraryService(path).CreateDatabase(path, QString());
-        secondCategory = cLibraryService(path).AddCategory(QStringLiteral("Second"));
+        DataServiceTest::SetUp();
+        secondCategory = cLibraryService(dbPath).AddCategory(QStringLiteral("Second"));
     }
 
     int save(Item& item) {
-        cSourceCode record(path);
+        cSourceCode record(dbPath);
         record.BeginEdit(0);
         record.CategoryId(item.categoryId);
         record.CodeTypeId(item.codeTypeId);
@@ -63,7 +57,7 @@ protected:
     QList<int> ids(int mode, const QString& text, int categoryId = 0, int status = 0,
                    int typeId = 0) {
         const VbArray<ItemRow> rows =
-            cLibraryService(path).Search(mode, text, categoryId, status, typeId, 0, 0);
+            cLibraryService(dbPath).Search(mode, text, categoryId, status, typeId, 0, 0);
         QList<int> found;
         for (const ItemRow& row : rows)
             found << row.Id;
@@ -72,8 +66,6 @@ protected:
 
     void expectAgreementWithPlainScan();
 
-    std::unique_ptr<test::TestHome> home;
-    QString path;
     int secondCategory = 0;
     QVector<Item> items;
 };
@@ -242,7 +234,7 @@ TEST_F(SearchTest, QuotesAndSqlLookingTextAreSearchedAsText) {
     EXPECT_EQ(ids(0, QStringLiteral("NEAR(a b) OR c*")), QList<int>{fts});
     EXPECT_EQ(ids(1, QStringLiteral("\" ' ; --")), (QList<int>{quoted, sql}));
     EXPECT_EQ(ids(1, QStringLiteral("OR")), QList<int>{fts});
-    EXPECT_EQ(cLibraryService(path).GetSourceCode(sql).Code(),
+    EXPECT_EQ(cLibraryService(dbPath).GetSourceCode(sql).Code(),
               QStringLiteral("x = \"'; DROP TABLE SourceCode; --\""));
 }
 
@@ -278,7 +270,7 @@ TEST_F(SearchTest, AnEmptyOrBlankSearchFindsNothing) {
     add(QStringLiteral("anything"));
     for (int mode = 0; mode <= 2; ++mode) {
         for (const QString& text : {QString(), QStringLiteral("   "), QStringLiteral("\t\r\n")}) {
-            const VbArray<ItemRow> rows = cLibraryService(path).Search(mode, text, 0, 0, 0);
+            const VbArray<ItemRow> rows = cLibraryService(dbPath).Search(mode, text, 0, 0, 0);
             EXPECT_EQ(rows.LBound(), 0);
             EXPECT_EQ(rows.UBound(), 0);
         }
@@ -317,7 +309,7 @@ TEST_F(SearchTest, MatchingFoldersComeBackMarkedAsFolders) {
     Item child{0, 1, 201, 1, false, QStringLiteral("Read a registry value"), {}, {}, {}};
     save(child);
     const VbArray<ItemRow> rows =
-        cLibraryService(path).Search(1, QStringLiteral("registry"), 0, 0, 0);
+        cLibraryService(dbPath).Search(1, QStringLiteral("registry"), 0, 0, 0);
     ASSERT_EQ(rows.UBound(), 2);
     EXPECT_EQ(rows(1).Id, folder.id);
     EXPECT_TRUE(rows(1).IsFolder);
@@ -330,7 +322,7 @@ TEST_F(SearchTest, MatchingFoldersComeBackMarkedAsFolders) {
 
 TEST_F(SearchTest, StoredFilesAreSearchedByDescriptionAndNotes) {
     add(QStringLiteral("winsock snippet"));
-    cSourceFile file(path);
+    cSourceFile file(dbPath);
     file.BeginEdit(0);
     file.CategoryId(1);
     file.FileTypeId(101);
@@ -339,7 +331,7 @@ TEST_F(SearchTest, StoredFilesAreSearchedByDescriptionAndNotes) {
     file.Notes(QStringLiteral("All about Winsock"));
     const int fileId = file.Save();
     const VbArray<ItemRow> rows =
-        cLibraryService(path).Search(0, QStringLiteral("winsock"), 1, 0, 101);
+        cLibraryService(dbPath).Search(0, QStringLiteral("winsock"), 1, 0, 101);
     ASSERT_EQ(rows.UBound(), 1);
     EXPECT_EQ(rows(1).Id, fileId);
     EXPECT_EQ(rows(1).TypeId, 101);
@@ -354,7 +346,7 @@ TEST_F(SearchTest, EverySaveIsSeenByTheNextSearch) {
     const int id = add(QStringLiteral("first"), QStringLiteral("Dim oldName"));
     EXPECT_EQ(ids(1, QStringLiteral("oldname")), QList<int>{id});
 
-    cSourceCode record = cLibraryService(path).GetSourceCode(id);
+    cSourceCode record = cLibraryService(dbPath).GetSourceCode(id);
     record.BeginEdit(0);
     record.Code(QStringLiteral("Dim newName"));
     record.Notes(QStringLiteral("renamed %"));
@@ -363,9 +355,7 @@ TEST_F(SearchTest, EverySaveIsSeenByTheNextSearch) {
     EXPECT_EQ(ids(1, QStringLiteral("newname")), QList<int>{id});
     EXPECT_EQ(ids(0, QStringLiteral("renamed %")), QList<int>{id});
 
-    record.BeginEdit(0);
-    record.Deleted(true);
-    record.Save();
+    test::DeleteRecord(record);
     EXPECT_EQ(ids(1, QStringLiteral("newname")), QList<int>{});
     EXPECT_EQ(ids(0, QStringLiteral("renamed %")), QList<int>{});
 }
@@ -376,15 +366,17 @@ TEST(SearchTokenizer, WordCharactersAreLearntFromTheIndexTokenizer) {
     auto& tokens = TokenCharacters::forTokenizer(QStringLiteral("unicode61 remove_diacritics 0"),
                                                  QStringLiteral("test"));
     using Kind = TokenCharacters::Kind;
-    EXPECT_EQ(tokens.kind(U'a'), Kind::Word);
-    EXPECT_EQ(tokens.kind(U'_'), Kind::Separator);
-    EXPECT_EQ(tokens.kind(U'\u00E9'), Kind::Word);
-    EXPECT_EQ(tokens.kind(U'\uE000'), Kind::Word);
-    EXPECT_EQ(tokens.kind(U'\U00010400'), Kind::Word);
-    EXPECT_EQ(tokens.kind(U'\u00A0'), Kind::Separator);
-    EXPECT_EQ(tokens.kind(U'\u201C'), Kind::Separator);
-    EXPECT_EQ(tokens.kind(U'\u0301'), Kind::Mark);
-    EXPECT_EQ(tokens.kind(U'\U0001F600'), Kind::Separator);
+    const std::pair<char32_t, Kind> kinds[] = {{U'a', Kind::Word},
+                                               {U'_', Kind::Separator},
+                                               {U'\u00E9', Kind::Word},
+                                               {U'\uE000', Kind::Word},
+                                               {U'\U00010400', Kind::Word},
+                                               {U'\u00A0', Kind::Separator},
+                                               {U'\u201C', Kind::Separator},
+                                               {U'\u0301', Kind::Mark},
+                                               {U'\U0001F600', Kind::Separator}};
+    for (const auto& [c, kind] : kinds)
+        EXPECT_EQ(tokens.kind(c), kind) << "U+" << std::hex << quint32(c);
     // A mark runs on the word before it, but a mark after a separator begins nothing.
     EXPECT_FALSE(tokens.boundaryBefore(QStringLiteral("e\u0301value"), 2));
     EXPECT_TRUE(tokens.boundaryBefore(QStringLiteral(" \u0301value"), 2));
@@ -506,17 +498,10 @@ TEST_F(SearchTest, AnswersEqualAPlainScanForGeneratedTextsAndQueries) {
 
 TEST_F(SearchTest, AnswersStayTheSameWhenItemRowsComeFromTheCoveringIndex) {
     {
-        QSqlDatabase raw =
-            QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), QStringLiteral("search_raw"));
-        raw.setDatabaseName(path);
-        ASSERT_TRUE(raw.open());
-        for (const QString& statement : SearchSchemaStatements()) {
-            QSqlQuery query(raw);
-            ASSERT_TRUE(query.exec(statement)) << statement.toStdString();
-        }
-        raw.close();
+        test::RawDb raw(dbPath);
+        for (const QString& statement : SearchSchemaStatements())
+            ASSERT_TRUE(raw.exec(statement)) << statement.toStdString();
     }
-    QSqlDatabase::removeDatabase(QStringLiteral("search_raw"));
     expectAgreementWithPlainScan();
 }
 

@@ -8,12 +8,6 @@ using namespace qs::test;
 
 using Security = DataServiceTest;
 
-TEST_F(Security, NewDatabaseHasNoUsers) {
-    const auto users = cSecurityService(dbPath).GetUsers(0, 0, false, QString());
-    EXPECT_EQ(users.LBound(), 0);
-    EXPECT_EQ(users.UBound(), 0);
-}
-
 TEST_F(Security, LoginWithTheRightPasswordGivesTheUser) {
     addUser(QStringLiteral("ann"), QStringLiteral("Secret"));
     const cUser user =
@@ -154,8 +148,7 @@ TEST_F(Security, DeletingAUserTakesHisBookmarksOnly) {
     ann.Save(QStringLiteral("admin"), 0);
 
     EXPECT_EQ(cSecurityService(dbPath).GetUsers().UBound(), 1);
-    RawDb raw(dbPath);
-    EXPECT_EQ(raw.value(QStringLiteral("SELECT COUNT(*) FROM BkMark_SrcCode")).toInt(), 0);
+    EXPECT_EQ(rows(QStringLiteral("BkMark_SrcCode")), 0);
     EXPECT_TRUE(library.GetAuthor(author).has_value());
     EXPECT_EQ(library.GetSourceCode(code).Description(), QStringLiteral("Marked"));
 }

@@ -10,10 +10,7 @@ using SourceCodeRecord = DataServiceTest;
 TEST_F(SourceCodeRecord, SaveWritesEveryFieldAndGetSourceCodeReadsThemBack) {
     const int author = addAuthor(QStringLiteral("Grace"), QStringLiteral("Hopper"));
     const QDateTime written(QDate(2001, 2, 3), QTime(4, 5, 6));
-    cSourceCode item(dbPath);
-    item.BeginEdit(0);
-    item.CategoryId(1);
-    item.CodeTypeId(203);
+    cSourceCode item = newCode(203);
     item.Tested(2);
     item.AuthorId(author);
     item.DateWritten(written);
@@ -64,10 +61,7 @@ TEST_F(SourceCodeRecord, SaveWithoutBeginEditIsRefusedAsReadOnly) {
 
 TEST_F(SourceCodeRecord, RevisionsKeepTheirEntryOrderAcrossSaves) {
     const int author = addAuthor(QStringLiteral("Alan"), QStringLiteral("Turing"));
-    cSourceCode item(dbPath);
-    item.BeginEdit(0);
-    item.CategoryId(1);
-    item.CodeTypeId(201);
+    cSourceCode item = newCode();
     item.Description(QStringLiteral("Versions"));
     // Versions that sort differently as text, by date and by entry.
     const QStringList versions{QStringLiteral("1.0.0"), QStringLiteral("1.10.0"),
@@ -106,10 +100,7 @@ TEST_F(SourceCodeRecord, RevisionItemOutsideTheListRaisesSubscriptOutOfRange) {
 }
 
 TEST_F(SourceCodeRecord, StoredRevisionLineIsReadOnly) {
-    cSourceCode item(dbPath);
-    item.BeginEdit(0);
-    item.CategoryId(1);
-    item.CodeTypeId(201);
+    cSourceCode item = newCode();
     item.Revisions().Add(0).Version(QStringLiteral("1.0.0"));
     const int id = item.Save();
     cSourceCode back = cLibraryService(dbPath).GetSourceCode(id);
@@ -119,19 +110,15 @@ TEST_F(SourceCodeRecord, StoredRevisionLineIsReadOnly) {
 
 TEST_F(SourceCodeRecord, FailingSaveWritesNeitherRecordNorRevisions) {
     const int author = addAuthor(QStringLiteral("A"), QStringLiteral("B"));
-    cSourceCode item(dbPath);
-    item.BeginEdit(0);
-    item.CategoryId(1);
-    item.CodeTypeId(201);
+    cSourceCode item = newCode();
     item.Description(QStringLiteral("Half"));
     item.Revisions().Add(0).AuthorId(author);
     item.Revisions().Add(0).AuthorId(9999); // no such author: the second line fails
     const QsError e = Raised([&] { item.Save(); });
     EXPECT_EQ(e.number(), kErrMissingParameters);
     EXPECT_EQ(item.Id(), 0);
-    RawDb raw(dbPath);
-    EXPECT_EQ(raw.value(QStringLiteral("SELECT COUNT(*) FROM SourceCode")).toInt(), 0);
-    EXPECT_EQ(raw.value(QStringLiteral("SELECT COUNT(*) FROM RevHist_SrcCode")).toInt(), 0);
+    EXPECT_EQ(rows(QStringLiteral("SourceCode")), 0);
+    EXPECT_EQ(rows(QStringLiteral("RevHist_SrcCode")), 0);
 }
 
 TEST_F(SourceCodeRecord, NewItemWithoutCategoryOrTypeIsRefused) {
@@ -161,25 +148,19 @@ TEST_F(SourceCodeRecord, RecordStaysUsableAfterItsServiceIsGone) {
 
 TEST_F(SourceCodeRecord, DeleteRemovesRevisionsAndBookmarks) {
     addUser(QStringLiteral("ann"));
-    cSourceCode item(dbPath);
-    item.BeginEdit(0);
-    item.CategoryId(1);
-    item.CodeTypeId(202);
+    cSourceCode item = newCode(202);
     item.Revisions().Add(0).Version(QStringLiteral("1.0.0"));
     const int id = item.Save();
     cLibraryService library(dbPath);
     library.AddBookmark(QStringLiteral("BkMark_SrcCode"), id, QStringLiteral("ann"));
 
     cSourceCode doomed = library.GetSourceCode(id);
-    doomed.BeginEdit(0);
-    doomed.Deleted(true);
-    doomed.Save();
+    DeleteRecord(doomed);
 
     EXPECT_EQ(Raised([&] { library.GetSourceCode(id); }).number(), kErrRecordNotFound);
     EXPECT_EQ(
         library.GetBookmarks(QStringLiteral("BkMark_SrcCode"), QStringLiteral("ann")).UBound(), 0);
-    RawDb raw(dbPath);
-    EXPECT_EQ(raw.value(QStringLiteral("SELECT COUNT(*) FROM RevHist_SrcCode")).toInt(), 0);
+    EXPECT_EQ(rows(QStringLiteral("RevHist_SrcCode")), 0);
 }
 
 TEST_F(SourceCodeRecord, FolderThatHoldsItemsCannotBeDeleted) {
@@ -196,15 +177,12 @@ TEST_F(SourceCodeRecord, UpdateOfARowAnotherUserDeletedRaisesNotFound) {
     const int id = addCode(QStringLiteral("Shared"));
     cSourceCode mine = cLibraryService(dbPath).GetSourceCode(id);
     cSourceCode theirs = cLibraryService(dbPath).GetSourceCode(id);
-    theirs.BeginEdit(0);
-    theirs.Deleted(true);
-    theirs.Save();
+    DeleteRecord(theirs);
     mine.BeginEdit(0);
     mine.Description(QStringLiteral("Too late"));
     mine.Revisions().Add(0);
     EXPECT_EQ(Raised([&] { mine.Save(); }).number(), kErrRecordNotFound);
-    RawDb raw(dbPath);
-    EXPECT_EQ(raw.value(QStringLiteral("SELECT COUNT(*) FROM RevHist_SrcCode")).toInt(), 0);
+    EXPECT_EQ(rows(QStringLiteral("RevHist_SrcCode")), 0);
 }
 
 TEST_F(SourceCodeRecord, SearchIndexFollowsInsertUpdateAndDelete) {
@@ -225,9 +203,7 @@ TEST_F(SourceCodeRecord, SearchIndexFollowsInsertUpdateAndDelete) {
     EXPECT_EQ(raw.value(hits.arg("straße")).toInt(), id);
     EXPECT_TRUE(raw.value(hits.arg("angstrom")).isNull()); // diacritics are kept
 
-    item.BeginEdit(0);
-    item.Deleted(true);
-    item.Save();
+    DeleteRecord(item);
     EXPECT_TRUE(raw.value(hits.arg("mergesort")).isNull());
     // The index agrees with the rows it was built from.
     EXPECT_TRUE(raw.exec(QStringLiteral(

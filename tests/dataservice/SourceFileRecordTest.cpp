@@ -70,11 +70,7 @@ TEST_F(SourceFileRecord, DeleteTakesBookmarksRevisionsAndStoredBytes) {
                 .arg(id)));
     }
     cSourceFile item = library.GetSourceFile(id);
-    item.BeginEdit(0);
-    item.Deleted(true);
-    item.Save();
-    RawDb raw(dbPath);
-    EXPECT_EQ(raw.value(QStringLiteral("SELECT COUNT(*) FROM SourceFileChunk")).toInt(), 0);
-    EXPECT_EQ(raw.value(QStringLiteral("SELECT COUNT(*) FROM BkMark_SrcFile")).toInt(), 0);
-    EXPECT_EQ(raw.value(QStringLiteral("SELECT COUNT(*) FROM SourceFile")).toInt(), 0);
+    DeleteRecord(item);
+    for (const char* table : {"SourceFileChunk", "BkMark_SrcFile", "SourceFile"})
+        EXPECT_EQ(rows(QString::fromLatin1(table)), 0) << table;
 }

@@ -1,3 +1,4 @@
+#include "DataServiceFixture.h"
 #include "PeImageBuilder.h"
 #include "PeVersionParser.h"
 #include "QsError.h"
@@ -35,6 +36,13 @@ PeVersionBlock parse(const QByteArray& bytes) {
     // An exact-size copy, so a read past the end is a read past the allocation.
     std::vector<uchar> copy(bytes.begin(), bytes.end());
     return PeVersionParser::Parse(copy.data(), copy.size());
+}
+
+// A copy of the image with the bytes written from the offset on.
+QByteArray poked(QByteArray image, int at, std::initializer_list<int> bytes) {
+    for (const int b : bytes)
+        image[at++] = char(b);
+    return image;
 }
 
 cFileVersionInfo infoOf(const QByteArray& bytes) {
@@ -81,12 +89,7 @@ TEST(VersionInfo, ListedEntriesCarryEveryNameOfTheInitialVersionList) {
 TEST(VersionInfo, EntryOutsideZeroToFourteenRaisesSubscriptOutOfRange) {
     const cFileVersionInfo info;
     EXPECT_EQ(info.EntryName(14), "File Type");
-    try {
-        info.EntryValue(15);
-        FAIL() << "no error";
-    } catch (const QsError& e) {
-        EXPECT_EQ(e.number(), 9);
-    }
+    EXPECT_EQ(qs::test::Raised([&] { info.EntryValue(15); }).number(), 9);
     EXPECT_THROW(info.EntryName(-1), QsError);
 }
 
@@ -219,47 +222,29 @@ TEST(PeVersionParserRobustness, ThousandsOfMutationsReturn) {
 }
 
 TEST(PeVersionParserRobustness, DirectoryPointingBackAtItselfEnds) {
-    QByteArray bad = PeImageBuilder::WithStrings(kStrings);
     const int r = PeImageBuilder::kResourceOffset;
     // Name and language levels both point at the root directory.
-    bad[r + 0x18 + 0x14] = 0;
-    bad[r + 0x30 + 0x14] = 0;
-    bad[r + 0x30 + 0x17] = char(0x80);
+    const QByteArray bad =
+        poked(poked(poked(PeImageBuilder::WithStrings(kStrings), r + 0x18 + 0x14, {0}),
+                    r + 0x30 + 0x14, {0}),
+              r + 0x30 + 0x17, {0x80});
     EXPECT_FALSE(parse(bad).found);
 }
 
 TEST(PeVersionParserRobustness, HugeCountsAndLengthsAreBounded) {
     const QByteArray good = PeImageBuilder::WithStrings(kStrings);
     const int r = PeImageBuilder::kResourceOffset;
-    QByteArray manyEntries = good;
-    manyEntries[r + 0x0C] = char(0xFF);
-    manyEntries[r + 0x0D] = char(0xFF);
-    manyEntries[r + 0x0E] = char(0xFF);
-    manyEntries[r + 0x0F] = char(0xFF);
-    EXPECT_NO_FATAL_FAILURE(parse(manyEntries));
+    // A root directory claiming 4 billion entries; a version root longer than the file.
+    EXPECT_NO_FATAL_FAILURE(parse(poked(good, r + 0x0C, {0xFF, 0xFF, 0xFF, 0xFF})));
+    EXPECT_TRUE(parse(poked(good, PeImageBuilder::kVersionOffset, {0xFF, 0xFF})).found);
 
-    QByteArray longRoot = good;
-    longRoot[PeImageBuilder::kVersionOffset] = char(0xFF);
-    longRoot[PeImageBuilder::kVersionOffset + 1] = char(0xFF);
-    EXPECT_TRUE(parse(longRoot).found);
-
-    QByteArray zeroChild = good;
     // First child of the root (StringFileInfo) claims a length of 0: the walk stops there.
-    const int child = PeImageBuilder::kVersionOffset + 92;
-    zeroChild[child] = 0;
-    zeroChild[child + 1] = 0;
-    const PeVersionBlock block = parse(zeroChild);
+    const PeVersionBlock block = parse(poked(good, PeImageBuilder::kVersionOffset + 92, {0, 0}));
     EXPECT_TRUE(block.found);
     EXPECT_TRUE(block.strings.isEmpty());
 
-    QByteArray farSections = good;
+    // A section count far past the end; a PE header offset far outside the file.
     const int coff = PeImageBuilder::kPeOffset + 4;
-    farSections[coff + 2] = char(0xFF);
-    farSections[coff + 3] = char(0xFF);
-    EXPECT_TRUE(parse(farSections).found);
-
-    QByteArray farHeader = good;
-    farHeader[0x3C] = char(0xF0);
-    farHeader[0x3F] = char(0x7F);
-    EXPECT_FALSE(parse(farHeader).found);
+    EXPECT_TRUE(parse(poked(good, coff + 2, {0xFF, 0xFF})).found);
+    EXPECT_FALSE(parse(poked(poked(good, 0x3C, {0xF0}), 0x3F, {0x7F})).found);
 }
