@@ -38,6 +38,14 @@ protected:
         form().cmdOk->click();
     }
     int msgBoxCount() const { return hostScript.msgBoxes().size(); }
+    // Fills the boxes of change-password mode; the caller presses OK.
+    void askToChange(const QString& old, const QString& fresh, const QString& confirm) {
+        form().Show();
+        form().cmdChangePwd->click();
+        type(QStringLiteral("ada"), old);
+        form().txtNewPwd->setText(fresh);
+        form().txtConfirmPwd->setText(confirm);
+    }
 };
 
 TEST_F(Login, ShowsItsControlsWithTheirCaptions) {
@@ -94,11 +102,7 @@ TEST_F(Login, MissingBoxesOfTheModeAreListedInOrderWithFocusOnTheFirst) {
 }
 
 TEST_F(Login, MismatchOfNewAndConfirmIsNamedWithFocusOnTheNewPassword) {
-    form().Show();
-    form().cmdChangePwd->click();
-    type(QStringLiteral("ada"), QStringLiteral("secret"));
-    form().txtNewPwd->setText(QStringLiteral("fresh"));
-    form().txtConfirmPwd->setText(QStringLiteral("fresh!"));
+    askToChange(QStringLiteral("secret"), QStringLiteral("fresh"), QStringLiteral("fresh!"));
     hostScript.expectMsgBox(QStringLiteral("Your Confirm password is not equal to the New Password "
                                            "you entered."));
     form().cmdOk->click();
@@ -142,11 +146,7 @@ TEST_F(Login, WrongPasswordKeepsTheFormWithWhatWasTyped) {
 }
 
 TEST_F(Login, PasswordChangeWithAWrongOldPasswordIsRefusedAndChangesNothing) {
-    form().Show();
-    form().cmdChangePwd->click();
-    type(QStringLiteral("ada"), QStringLiteral("guess"));
-    form().txtNewPwd->setText(QStringLiteral("fresh"));
-    form().txtConfirmPwd->setText(QStringLiteral("fresh"));
+    askToChange(QStringLiteral("guess"), QStringLiteral("fresh"), QStringLiteral("fresh"));
     hostScript.expectMsgBox(QStringLiteral("Invalid login - Please try again."));
     form().cmdOk->click();
 
@@ -158,11 +158,7 @@ TEST_F(Login, PasswordChangeWithAWrongOldPasswordIsRefusedAndChangesNothing) {
 }
 
 TEST_F(Login, PasswordChangeWithTheRightOldPasswordStoresTheNewOne) {
-    form().Show();
-    form().cmdChangePwd->click();
-    type(QStringLiteral("ada"), QStringLiteral("secret"));
-    form().txtNewPwd->setText(QStringLiteral("fresh"));
-    form().txtConfirmPwd->setText(QStringLiteral("fresh"));
+    askToChange(QStringLiteral("secret"), QStringLiteral("fresh"), QStringLiteral("fresh"));
     hostScript.expectMsgBox(QStringLiteral("Your password has been changed successfully."));
     form().cmdOk->click();
 

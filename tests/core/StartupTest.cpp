@@ -60,7 +60,7 @@ TEST_F(Startup, MissingDatabaseShowsTheServiceTextThenTheDialogThenTheLogin) {
     EXPECT_EQ(registryFileName(), QStringLiteral("Found.mdb"));
 }
 
-TEST_F(Startup, EmptyDatabaseAsksForTheFirstUserAndPrefillsTheLogin) {
+TEST_F(Startup, EmptyDatabaseAsksForTheFirstUserThenPrefillsALoginThatMakesAnAdministrator) {
     makeLibrary();
     hostScript.expectMsgBox(QStringLiteral("There are no users in the database. You must \r\n"
                                            "create a user account before continuing."));
@@ -81,19 +81,8 @@ TEST_F(Startup, EmptyDatabaseAsksForTheFirstUserAndPrefillsTheLogin) {
     // Main has returned before anyone answered the login.
     EXPECT_FALSE(login->ValidUser());
     EXPECT_GE(hostScript.doEventsCount(), 1);
-}
 
-TEST_F(Startup, FirstLoginAfterTheFirstUserMakesAnAdministrator) {
-    makeLibrary();
-    hostScript.expectMsgBox(QStringLiteral("There are no users in the database."));
-    hostScript.onModal<frmUser>(QStringLiteral("frmUser"), [](frmUser& user) {
-        makeFirstUser(user, QStringLiteral("ada"), QStringLiteral("secret"));
-    });
-    Main();
-    frmLogin* login = Forms::find<frmLogin>();
-    ASSERT_NE(login, nullptr);
     login->cmdOk->click();
-
     EXPECT_EQ(gstrUserId, QStringLiteral("ada"));
     EXPECT_EQ(gstrAccessType, QStringLiteral("Admin"));
     EXPECT_EQ(gintAccessLevel, 1);
@@ -132,14 +121,6 @@ TEST_F(Startup, OtherServiceErrorsAreReportedAndTheLoginStillComes) {
     EXPECT_TRUE(hostScript.callsOf(QStringLiteral("Modal")).isEmpty());
     EXPECT_FALSE(gblnFirstUser);
     EXPECT_NE(Forms::find<frmLogin>(), nullptr);
-}
-
-TEST_F(Startup, UsersExistIsTrueForALibraryWithUsers) {
-    makeLibrary();
-    addUser(QStringLiteral("ada"), QStringLiteral("secret"));
-    EXPECT_TRUE(UsersExist());
-    EXPECT_TRUE(hostScript.msgBoxes().isEmpty());
-    EXPECT_FALSE(gblnFirstUser);
 }
 
 // The lock of a running copy: a child process takes it through the real host and holds it until
