@@ -11,44 +11,38 @@
 using namespace qs;
 using namespace qs::test;
 
-TEST(ValidateSSN, FillsTheFirstMarkerByDefault) {
-    EXPECT_EQ(ValidateSSN(QStringLiteral("The AuthorId: ? is not not in the database."),
-                          QStringLiteral("17")),
-              QStringLiteral("The AuthorId: 17 is not not in the database."));
+// Without an occurrence the first marker is filled and carets stay; with one the n-th marker is
+// filled, the others are kept, and every caret of the template or the value comes out as "?"
+// (skipped markers other than "?" too); an occurrence beyond the markers changes nothing.
+TEST(ValidateSSN, FillsTheFirstOrTheNthMarker) {
+    struct Row {
+        const char *text, *value, *marker;
+        int occurrence;
+        const char* expected;
+    };
+    const Row rows[] = {
+        {"The AuthorId: ? is not not in the database.", "17", "?", 0,
+         "The AuthorId: 17 is not not in the database."},
+        {"? and ?", "A", "?", 0, "A and ?"},
+        {"no marker", "A", "?", 0, "no marker"},
+        {"2^3 = ?", "8", "?", 0, "2^3 = 8"},
+        {"? and ? and ?", "B", "?", 2, "? and B and ?"},
+        {"? and ? and ?", "C", "?", 3, "? and ? and C"},
+        {"? then ?", "A", "?", 1, "A then ?"},
+        {"2^3 = ?", "8", "?", 1, "2?3 = 8"},
+        {"x ?", "a^b", "?", 1, "x a?b"},
+        {"# and #", "Z", "#", 2, "? and Z"},
+        {"only ?", "A", "?", 2, "only ?"},
+    };
+    for (const Row& r : rows) {
+        SCOPED_TRACE(std::string(r.text) + " / " + r.value + " / " + std::to_string(r.occurrence));
+        EXPECT_EQ(ValidateSSN(QString::fromUtf8(r.text), QString::fromUtf8(r.value),
+                              QString::fromUtf8(r.marker), r.occurrence),
+                  QString::fromUtf8(r.expected));
+    }
+    // The marker and the occurrence may be left out.
     EXPECT_EQ(ValidateSSN(QStringLiteral("? and ?"), QStringLiteral("A")),
               QStringLiteral("A and ?"));
-    EXPECT_EQ(ValidateSSN(QStringLiteral("no marker"), QStringLiteral("A")),
-              QStringLiteral("no marker"));
-}
-
-TEST(ValidateSSN, OccurrenceFillsTheNthMarkerAndKeepsTheOthers) {
-    EXPECT_EQ(
-        ValidateSSN(QStringLiteral("? and ? and ?"), QStringLiteral("B"), QStringLiteral("?"), 2),
-        QStringLiteral("? and B and ?"));
-    EXPECT_EQ(
-        ValidateSSN(QStringLiteral("? and ? and ?"), QStringLiteral("C"), QStringLiteral("?"), 3),
-        QStringLiteral("? and ? and C"));
-    EXPECT_EQ(ValidateSSN(QStringLiteral("? then ?"), QStringLiteral("A"), QStringLiteral("?"), 1),
-              QStringLiteral("A then ?"));
-}
-
-TEST(ValidateSSN, OccurrenceTurnsEveryCaretIntoAQuestionMark) {
-    // A caret of the template or the value comes out as "?".
-    EXPECT_EQ(ValidateSSN(QStringLiteral("2^3 = ?"), QStringLiteral("8"), QStringLiteral("?"), 1),
-              QStringLiteral("2?3 = 8"));
-    EXPECT_EQ(ValidateSSN(QStringLiteral("x ?"), QStringLiteral("a^b"), QStringLiteral("?"), 1),
-              QStringLiteral("x a?b"));
-    // Without an occurrence the caret stays.
-    EXPECT_EQ(ValidateSSN(QStringLiteral("2^3 = ?"), QStringLiteral("8")),
-              QStringLiteral("2^3 = 8"));
-    // With another marker the skipped ones come back as "?", not as the marker.
-    EXPECT_EQ(ValidateSSN(QStringLiteral("# and #"), QStringLiteral("Z"), QStringLiteral("#"), 2),
-              QStringLiteral("? and Z"));
-}
-
-TEST(ValidateSSN, OccurrenceBeyondTheMarkersChangesNothing) {
-    EXPECT_EQ(ValidateSSN(QStringLiteral("only ?"), QStringLiteral("A"), QStringLiteral("?"), 2),
-              QStringLiteral("only ?"));
 }
 
 TEST(Strings, FirstAlphaCharacterCountsInTheTrimmedText) {

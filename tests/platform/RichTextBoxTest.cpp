@@ -38,25 +38,22 @@ TEST(RichTextBox, TextGoesOutWithCrLfAndComesInWithAnyLineEnd) {
     EXPECT_EQ(box.objectName(), "RichTextBoxCode");
 }
 
-TEST(RichTextBox, PlainTextWritesTheBoxLayout) {
-    RichTextBox box("r");
-    box.setText("Hello\r\nWorld");
-    EXPECT_EQ(box.TextRTF(), kHeader + kBlackTable +
-                                 "\\deflang1033\\pard\\plain\\f3\\fs17 Hello\r\n"
-                                 "\\par World\r\n"
-                                 "\\par }\r\n");
-}
-
-TEST(RichTextBox, EmptyBoxWritesTheBareLayout) {
-    RichTextBox box("r");
-    EXPECT_EQ(box.TextRTF(),
-              kHeader + kBlackTable + "\\deflang1033\\pard\\plain\\f3\\fs17 \r\n\\par }\r\n");
-}
-
-TEST(RichTextBox, LfOnlyTextIsWrittenAsLines) {
-    RichTextBox box("r");
-    box.setText("a\nb\n");
-    EXPECT_TRUE(box.TextRTF().endsWith("\\fs17 a\r\n\\par b\r\n\\par \r\n\\par }\r\n"));
+// Plain text, an empty box and LF-only text: the header, the black colour table and one \par
+// per line.
+TEST(RichTextBox, PlainTextWritesTheBoxLayoutLineByLine) {
+    const std::pair<QString, QString> rows[] = {
+        {"Hello\r\nWorld", "Hello\r\n\\par World\r\n\\par }\r\n"},
+        {"", "\r\n\\par }\r\n"},
+        {"a\nb\n", "a\r\n\\par b\r\n\\par \r\n\\par }\r\n"},
+    };
+    for (const auto& [text, body] : rows) {
+        SCOPED_TRACE(text.toStdString());
+        RichTextBox box("r");
+        if (!text.isEmpty())
+            box.setText(text);
+        EXPECT_EQ(box.TextRTF(),
+                  kHeader + kBlackTable + "\\deflang1033\\pard\\plain\\f3\\fs17 " + body);
+    }
 }
 
 TEST(RichTextBox, ColouredAndBoldRunsUseTheColourTableAndPlainResets) {
