@@ -1,8 +1,7 @@
 #pragma once
 
-#include "RecordBase.h"
+#include "CatalogueItem.h"
 #include "SourceFileFacts.h"
-#include "cRevisions.h"
 
 #include <QDateTime>
 #include <QString>
@@ -10,7 +9,6 @@
 
 namespace qs {
 
-class SqliteStore;
 class cFileInfo;
 
 // One stored file (an article or a component) or a folder of them, a row of SourceFile.  The
@@ -28,7 +26,8 @@ class cFileInfo;
 // are defined in cSourceFile_content.cpp.  LoadFile and UpdateFile fill mFacts and set
 // mContentWriter; Save calls the writer inside its transaction, after the row is written, with
 // the row's id, and the writer replaces that id's SourceFileChunk rows.
-class cSourceFile : public RecordBase {
+// Category, parent, texts, author, revision lines and Id come from CatalogueItem.
+class cSourceFile : public CatalogueItem {
 public:
     // Writes the stored bytes of the row id inside Save's transaction.
     using ContentWriter = std::function<void(SqliteStore& store, int sourceFileId)>;
@@ -36,7 +35,7 @@ public:
     // A new item of the database the settings name now.
     cSourceFile() = default;
     // A new item of that database file.
-    explicit cSourceFile(const QString& databasePath) : RecordBase(databasePath) {}
+    explicit cSourceFile(const QString& databasePath) : CatalogueItem(databasePath) {}
 
     // The facts of the stored file, as cFileInfo (with its cFileVersionInfo).
     cFileInfo File() const;
@@ -46,17 +45,6 @@ public:
     // True at an update that brings in a new file (UpdateFile).
     bool ReplaceFile() const { return mReplaceFile; }
     void ReplaceFile(bool value) { mReplaceFile = value; }
-    int CategoryId() const { return mCategoryId; }
-    void CategoryId(int value) { mCategoryId = value; }
-    const QDateTime& DateEntered() const { return mDateEntered; }
-    const QString& Description() const { return mDescription; }
-    void Description(const QString& value) { mDescription = value; }
-    const QString& Notes() const { return mNotes; }
-    void Notes(const QString& value) { mNotes = value; }
-    bool IsFolder() const { return mIsFolder; }
-    void IsFolder(bool value) { mIsFolder = value; }
-    int ParentId() const { return mParentId; }
-    void ParentId(int value) { mParentId = value; }
     // The stored file's extension; the dialogs pick their filters by it.
     const QString& FileTypeName() const { return mFacts.FileTypeName; }
     int FileTypeId() const { return mFileTypeId; }
@@ -65,12 +53,6 @@ public:
     void LoadFile(const QString& strPath, int lngAuthorId, int lngCategoryId, int lngFileTypeId);
     // Reads the file at strPath over the stored one; Save stores it.
     void UpdateFile(const QString& strPath);
-    const QString& AuthorFirstName() const { return mAuthorFirstName; }
-    const QString& AuthorLastName() const { return mAuthorLastName; }
-    int AuthorId() const { return mAuthorId; }
-    void AuthorId(int value) { mAuthorId = value; }
-    cRevisions& Revisions() { return mRevisions; }
-    const cRevisions& Revisions() const { return mRevisions; }
     int Save();
     void Save(int& lngId) { lngId = Save(); }
     // Writes the stored bytes out to strPath, byte for byte.
@@ -80,25 +62,11 @@ public:
     static QString FormatSize(qint64 lngSize);
     static QString FormatDate(const QDateTime& datValue);
 
-    // The row id; 0 for a record not saved yet.
-    int Id() const { return mId; }
-
 private:
     friend class cLibraryService;
 
-    int mId = 0;
     bool mReplaceFile = false;
-    int mCategoryId = 0;
-    QDateTime mDateEntered;
-    QString mDescription;
-    QString mNotes;
-    bool mIsFolder = false;
-    int mParentId = 0;
     int mFileTypeId = 0;
-    QString mAuthorFirstName;
-    QString mAuthorLastName;
-    int mAuthorId = 0;
-    cRevisions mRevisions;
     SourceFileFacts mFacts;
     ContentWriter mContentWriter; // set by LoadFile/UpdateFile, run and cleared by Save
 };
