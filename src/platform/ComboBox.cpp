@@ -1,17 +1,11 @@
 #include "ComboBox.h"
 
-#include "QsError.h"
-
 #include <QLineEdit>
 
 namespace qs {
 
-namespace {
-constexpr int kDataRole = Qt::UserRole + 1;
-} // namespace
-
 ComboBox::ComboBox(const QString& name, QWidget* parent, int style)
-    : QComboBox(parent), mStyle(style) {
+    : ListControl(parent), mStyle(style) {
     setObjectName(name);
     setEditable(style != vbComboDropdownList);
     setInsertPolicy(QComboBox::NoInsert);
@@ -26,13 +20,6 @@ ComboBox::ComboBox(const QString& name, QWidget* parent, int style)
     });
 }
 
-int ComboBox::checkedIndex(int index) const {
-    if (index < 0 || index >= count())
-        throw QsError(381, QString::fromLatin1(kAppSource),
-                      QStringLiteral("Invalid property array index"));
-    return index;
-}
-
 void ComboBox::Clear() {
     mSilent = true;
     clear();
@@ -43,10 +30,7 @@ void ComboBox::Clear() {
 }
 
 void ComboBox::AddItem(const QString& text, int index) {
-    if (index > count())
-        throw QsError(5, QString::fromLatin1(kAppSource),
-                      QStringLiteral("Invalid procedure call or argument"));
-    const int at = index < 0 ? count() : index;
+    const int at = addPlace(index);
     mSilent = true;
     const QString edit = isEditable() ? currentText() : QString();
     insertItem(at, text);
@@ -78,16 +62,13 @@ void ComboBox::setList(int index, const QString& text) {
 }
 
 void ComboBox::setListIndex(int index) {
-    if (index < -1 || index >= count())
-        throw QsError(380, QString::fromLatin1(kAppSource),
-                      QStringLiteral("Invalid property value"));
+    checkListIndex(index);
     mSilent = true;
     setCurrentIndex(index);
     if (index < 0 && isEditable())
         setEditText(QString());
     mSilent = false;
-    if (Click)
-        Click();
+    raiseClick();
 }
 
 qint32 ComboBox::ItemData(int index) const {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ListControl.h"
+
 #include <QComboBox>
 #include <functional>
 
@@ -12,7 +14,7 @@ enum ComboStyle : int { vbComboDropdown = 0, vbComboSimple = 1, vbComboDropdownL
 //   Errors: an index outside the list raises 381 "Invalid property array index"; ListIndex
 //   outside -1 .. ListCount - 1 raises 380 "Invalid property value"; setting Text of a drop-down
 //   list to a text that is no entry raises 383 "'Text' property is read-only".
-class ComboBox : public QComboBox {
+class ComboBox : public ListControl<QComboBox> {
     Q_OBJECT
 public:
     explicit ComboBox(const QString& name, QWidget* parent = nullptr,
@@ -20,7 +22,6 @@ public:
     // The event members go before the base widget, which may still signal while it dies.
     ~ComboBox() override { blockSignals(true); }
 
-    QString Name() const { return objectName(); }
     int Style() const { return mStyle; }
 
     void Clear();
@@ -29,8 +30,6 @@ public:
     void RemoveItem(int index);
     QString List(int index) const;
     void setList(int index, const QString& text);
-    int ListCount() const { return count(); }
-    int NewIndex() const { return mNewIndex; }
     // -1 for none.  Setting it (to any value, the same one too) raises Click.
     int ListIndex() const { return currentIndex(); }
     void setListIndex(int index);
@@ -39,17 +38,11 @@ public:
     // The edit text of a drop-down combo, the chosen entry of a drop-down list.
     QString Text() const;
     void setText(const QString& text);
-    void SetFocus() { setFocus(Qt::OtherFocusReason); }
 
-    // Raised when a person picks an entry, and when ListIndex is set.
-    std::function<void()> Click;
     std::function<void()> Change;
 
 private:
-    int checkedIndex(int index) const;
     int mStyle;
-    int mNewIndex = -1;
-    bool mSilent = false;
 };
 
 } // namespace qs

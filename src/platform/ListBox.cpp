@@ -1,14 +1,8 @@
 #include "ListBox.h"
 
-#include "QsError.h"
-
 namespace qs {
 
-namespace {
-constexpr int kDataRole = Qt::UserRole + 1;
-} // namespace
-
-ListBox::ListBox(const QString& name, QWidget* parent) : QListWidget(parent) {
+ListBox::ListBox(const QString& name, QWidget* parent) : ListControl(parent) {
     setObjectName(name);
     setSelectionMode(QAbstractItemView::SingleSelection);
     connect(this, &QListWidget::currentRowChanged, this, [this](int) {
@@ -21,13 +15,6 @@ ListBox::ListBox(const QString& name, QWidget* parent) : QListWidget(parent) {
     });
 }
 
-int ListBox::checkedIndex(int index) const {
-    if (index < 0 || index >= count())
-        throw QsError(381, QString::fromLatin1(kAppSource),
-                      QStringLiteral("Invalid property array index"));
-    return index;
-}
-
 void ListBox::Clear() {
     mSilent = true;
     clear();
@@ -36,10 +23,7 @@ void ListBox::Clear() {
 }
 
 void ListBox::AddItem(const QString& text, int index) {
-    if (index > count())
-        throw QsError(5, QString::fromLatin1(kAppSource),
-                      QStringLiteral("Invalid procedure call or argument"));
-    const int at = index < 0 ? count() : index;
+    const int at = addPlace(index);
     auto* item = new QListWidgetItem(text);
     item->setData(kDataRole, 0);
     mSilent = true;
@@ -65,16 +49,13 @@ void ListBox::setList(int index, const QString& text) {
 }
 
 void ListBox::setListIndex(int index) {
-    if (index < -1 || index >= count())
-        throw QsError(380, QString::fromLatin1(kAppSource),
-                      QStringLiteral("Invalid property value"));
+    checkListIndex(index);
     mSilent = true;
     setCurrentRow(index);
     if (index < 0)
         clearSelection();
     mSilent = false;
-    if (Click)
-        Click();
+    raiseClick();
 }
 
 qint32 ListBox::ItemData(int index) const {

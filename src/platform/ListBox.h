@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ListControl.h"
+
 #include <QListWidget>
 #include <functional>
 
@@ -7,22 +9,18 @@ namespace qs {
 
 // A list box over QListWidget with entries numbered from 0 and a 32-bit ItemData beside each.
 // Errors as ComboBox: 381 for an index outside the list, 380 for a bad ListIndex.
-class ListBox : public QListWidget {
+class ListBox : public ListControl<QListWidget> {
     Q_OBJECT
 public:
     explicit ListBox(const QString& name, QWidget* parent = nullptr);
     // The event members go before the base widget, which may still signal while it dies.
     ~ListBox() override { blockSignals(true); }
 
-    QString Name() const { return objectName(); }
-
     void Clear();
     void AddItem(const QString& text, int index = -1);
     void RemoveItem(int index);
     QString List(int index) const;
     void setList(int index, const QString& text);
-    int ListCount() const { return count(); }
-    int NewIndex() const { return mNewIndex; }
     // -1 for none.  Setting it (to any value, the same one too) raises Click.
     int ListIndex() const { return currentRow(); }
     void setListIndex(int index);
@@ -32,15 +30,8 @@ public:
     QString Text() const;
     bool Selected(int index) const;
     void setSelected(int index, bool selected);
-    void SetFocus() { setFocus(Qt::OtherFocusReason); }
 
-    std::function<void()> Click;
     std::function<void()> DblClick;
-
-private:
-    int checkedIndex(int index) const;
-    int mNewIndex = -1;
-    bool mSilent = false;
 };
 
 } // namespace qs
