@@ -1,5 +1,7 @@
 #include "mRegistry.h"
 
+#include "VbStrings.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -147,21 +149,11 @@ long storeValue(RegKeyHandle handle, const QString& valueName, int type, const Q
     return kSuccess;
 }
 
-QString trimBlanks(const QString& text) {
-    int first = 0;
-    int last = text.size();
-    while (first < last && text.at(first) == QLatin1Char(' '))
-        ++first;
-    while (last > first && text.at(last - 1) == QLatin1Char(' '))
-        --last;
-    return text.mid(first, last - first);
-}
-
 // What a string value gives through the fixed buffer.
 QString readString(const QString& stored) {
     const QString text = stored.left(kBufferChars - 1);
     const int nul = text.indexOf(QChar(0));
-    return nul >= 0 ? text.left(nul) : trimBlanks(text);
+    return nul >= 0 ? text.left(nul) : VbTrim(text);
 }
 
 QVariant readByType(int type, const QJsonValue& data) {

@@ -3,6 +3,7 @@
 
 #include "Globals.h"
 #include "Host.h"
+#include "VbStrings.h"
 #include "cSecurityService.h"
 #include "cUser.h"
 #include "frmMain.h"
@@ -21,17 +22,6 @@
 namespace qs {
 
 namespace {
-
-// Trims blanks at both ends, and nothing else.
-QString TrimBlanks(const QString& text) {
-    int first = 0;
-    int last = text.size();
-    while (first < last && text.at(first) == QLatin1Char(' '))
-        ++first;
-    while (last > first && text.at(last - 1) == QLatin1Char(' '))
-        --last;
-    return text.mid(first, last - first);
-}
 
 QString AccessTypeOfLevel(short level) {
     switch (level) {
@@ -167,7 +157,7 @@ void frmLogin::cmdForgotPwd_Click() {
         }
 
         auto security = std::make_unique<cSecurityService>();
-        const QString userId = TrimBlanks(txtUserId->text());
+        const QString userId = VbTrim(txtUserId->text());
         const QString question = security->GetPasswordQuestion(userId);
         host().setMousePointer(vbDefault);
         const QString answer = host().inputBox(
@@ -176,7 +166,7 @@ void frmLogin::cmdForgotPwd_Click() {
                 question + QStringLiteral(" ?"),
             AppTitle() + QStringLiteral("Forgotten Password Assist"), QString());
 
-        const QString password = security->GetForgottenPassword(userId, TrimBlanks(answer));
+        const QString password = security->GetForgottenPassword(userId, VbTrim(answer));
         if (password == QLatin1String(ANSWER_NOT_VALID))
             host().msgBox(
                 QStringLiteral("The Answer given for the Password question was incorrect."),

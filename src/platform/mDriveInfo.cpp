@@ -1,23 +1,12 @@
 #include "mDriveInfo.h"
 
+#include "VbStrings.h"
 #include "mErrorHandling.h"
 
 #include <QDir>
 #include <QFileInfo>
 
 namespace qs {
-
-namespace {
-QString trimBlanks(const QString& text) {
-    int start = 0;
-    int end = text.size();
-    while (start < end && text[start] == QLatin1Char(' '))
-        ++start;
-    while (end > start && text[end - 1] == QLatin1Char(' '))
-        --end;
-    return text.mid(start, end - start);
-}
-} // namespace
 
 QString FormatPath(const QString& strPath) {
     try {
@@ -34,7 +23,7 @@ QString TrimNull(const QString& strText) {
     const int nul = strText.indexOf(QChar(0));
     if (nul >= 0)
         return strText.left(nul);
-    return trimBlanks(strText);
+    return VbTrim(strText);
 }
 
 QString ExtractFilePath(const QString& strPath, bool blnKeepSlash) {

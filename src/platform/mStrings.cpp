@@ -1,5 +1,7 @@
 #include "mStrings.h"
 
+#include "VbStrings.h"
+
 namespace qs {
 
 namespace {
@@ -21,17 +23,6 @@ QString replaceFirst(const QString& text, const QString& find, const QString& wi
     return result;
 }
 
-// Trim of blanks only, as the string functions of the original trim.
-QString trimBlanks(const QString& text) {
-    int start = 0;
-    int end = text.size();
-    while (start < end && text[start] == QLatin1Char(' '))
-        ++start;
-    while (end > start && text[end - 1] == QLatin1Char(' '))
-        --end;
-    return text.mid(start, end - start);
-}
-
 } // namespace
 
 QString ValidateSSN(const QString& strTemplate, const QString& strValue, const QString& strMarker,
@@ -47,7 +38,7 @@ QString ValidateSSN(const QString& strTemplate, const QString& strValue, const Q
 }
 
 int FirstAlphaCharacter(const QString& strText) {
-    const QString text = trimBlanks(strText);
+    const QString text = VbTrim(strText);
     for (int i = 0; i < text.size(); ++i)
         if (isAsciiLetter(text[i]))
             return i + 1;
