@@ -161,38 +161,35 @@ void TreeView::sortChildren(QTreeWidgetItem* parent) {
     });
     if (ordered == children)
         return;
-    QVector<QPair<QTreeWidgetItem*, bool>> expanded;
-    for (QTreeWidgetItem* child : children)
-        saveExpanded(child, expanded);
-    QTreeWidgetItem* current = currentItem();
-    const bool quiet = mQuiet;
-    mQuiet = true;
-    {
-        const QSignalBlocker block(this);
+    rearrangeQuietly(children, [&] {
         parent->takeChildren();
         parent->insertChildren(0, ordered);
-        for (const auto& e : expanded)
-            e.first->setExpanded(e.second);
-        if (current)
-            setCurrentItem(current);
-    }
-    mQuiet = quiet;
-    viewport()->update();
+    });
 }
 
 void TreeView::moveItem(NodeData& node, QTreeWidgetItem* newParent) {
     QTreeWidgetItem* item = node.item;
     QTreeWidgetItem* target = newParent ? newParent : invisibleRootItem();
     QTreeWidgetItem* oldParent = item->parent() ? item->parent() : invisibleRootItem();
+    rearrangeQuietly({item}, [&] {
+        oldParent->takeChild(oldParent->indexOfChild(item));
+        insertChild(target, item, -1);
+    });
+}
+
+void TreeView::rearrangeQuietly(const QList<QTreeWidgetItem*>& moved,
+                                const std::function<void()>& change) {
+    // Taking items out of the tree collapses them and may move the current item, so both are
+    // put back once they are in their new place.
     QVector<QPair<QTreeWidgetItem*, bool>> expanded;
-    saveExpanded(item, expanded);
+    for (QTreeWidgetItem* item : moved)
+        saveExpanded(item, expanded);
     QTreeWidgetItem* current = currentItem();
     const bool quiet = mQuiet;
     mQuiet = true;
     {
         const QSignalBlocker block(this);
-        oldParent->takeChild(oldParent->indexOfChild(item));
-        insertChild(target, item, -1);
+        change();
         for (const auto& e : expanded)
             e.first->setExpanded(e.second);
         if (current)

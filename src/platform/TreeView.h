@@ -134,6 +134,9 @@ private:
     void placeSorted(QTreeWidgetItem* parent, QTreeWidgetItem* item);
     void sortChildren(QTreeWidgetItem* parent);
     void moveItem(NodeData& node, QTreeWidgetItem* newParent);
+    // Runs change, which takes the moved items out and puts them back, with no events.
+    void rearrangeQuietly(const QList<QTreeWidgetItem*>& moved,
+                          const std::function<void()>& change);
     void applyImage(NodeData& node);
     void applyBackColor(NodeData& node);
     void applyBold(NodeData& node);
