@@ -9,6 +9,7 @@ packages=(
     poppler-utils
 )
 [ "${QS_WITH_XVFB:-0}" = 1 ] && packages+=(xvfb x11-apps imagemagick)
+[ "${QS_WITH_FUZZ:-0}" = 1 ] && packages+=(clang libclang-rt-14-dev)
 
 missing=()
 for p in "${packages[@]}"; do
