@@ -4,12 +4,16 @@
 #include "SqliteStore.h"
 #include "SyntheticLibrary.h"
 #include "cLibraryService.h"
+#include "cSourceFile.h"
 
+#include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QRandomGenerator>
 #include <QSqlQuery>
+#include <fstream>
+#include <string>
 
 namespace qs::bench {
 
@@ -25,6 +29,31 @@ QList<int> idsOf(const VbArray<ItemRow>& rows) {
 
 QString number(double value) {
     return QString::number(value, 'f', 3);
+}
+
+// A value of /proc/self/status in KiB, -1 where there is none.
+qint64 statusKb(const char* field) {
+    std::ifstream status("/proc/self/status");
+    std::string line;
+    while (std::getline(status, line))
+        if (line.rfind(field, 0) == 0)
+            return std::stoll(line.substr(std::string(field).size()));
+    return -1;
+}
+
+// Lets the peak of the resident set start again from the present size.
+bool resetPeakMemory() {
+    std::ofstream reset("/proc/self/clear_refs");
+    reset << "5";
+    return reset.good();
+}
+
+QByteArray fileHash(const QString& path) {
+    QFile file(path);
+    QCryptographicHash hash(QCryptographicHash::Sha256);
+    if (file.open(QIODevice::ReadOnly))
+        hash.addData(&file);
+    return hash.result();
 }
 
 } // namespace
@@ -172,6 +201,56 @@ void FigureFileSize(const BenchContext& context) {
                  {QStringLiteral("indexed_text_bytes"), QString::number(textBytes)},
                  {QStringLiteral("index_to_text"),
                   number(double(indexBytes) / double(qMax<qint64>(textBytes, 1)))}});
+}
+
+void FigureStoredFile(const BenchContext& context, int megabytes) {
+    const QString in = context.path + QStringLiteral(".stored-in.bin");
+    const QString out = context.path + QStringLiteral(".stored-out.bin");
+    {
+        QFile file(in);
+        if (!file.open(QIODevice::WriteOnly))
+            return;
+        QByteArray block(1024 * 1024, Qt::Uninitialized);
+        QRandomGenerator random(20261123);
+        for (int i = 0; i < megabytes; ++i) {
+            random.fillRange(reinterpret_cast<quint32*>(block.data()), block.size() / 4);
+            file.write(block);
+        }
+    }
+    const bool peakKnown = resetPeakMemory();
+    const qint64 rssBefore = statusKb("VmRSS:");
+    int id = 0;
+    const double addMs = MedianMs(1, [&] {
+        cSourceFile item(context.path);
+        item.LoadFile(in, 0, 1, 102);
+        item.BeginEdit(0);
+        item.Description(QStringLiteral("Large stored file"));
+        id = item.Save();
+    });
+    const double writeMs =
+        MedianMs(1, [&] { cLibraryService(context.path).GetSourceFile(id).SaveToDisk(out); });
+    const qint64 peakRise = peakKnown ? statusKb("VmHWM:") - rssBefore : -1;
+    const bool agree = fileHash(in) == fileHash(out);
+    const double copyMs = MedianMs(1, [&] {
+        QFile::remove(out);
+        QFile::copy(in, out);
+    });
+    {
+        cSourceFile item = cLibraryService(context.path).GetSourceFile(id);
+        item.BeginEdit(0);
+        item.Deleted(true);
+        item.Save();
+    }
+    QFile::remove(in);
+    QFile::remove(out);
+    PrintFigure(context, QStringLiteral("stored_file_add_and_write_back"), addMs + writeMs, copyMs,
+                1, agree,
+                {{QStringLiteral("megabytes"), QString::number(megabytes)},
+                 {QStringLiteral("add_ms"), number(addMs)},
+                 {QStringLiteral("write_back_ms"), number(writeMs)},
+                 {QStringLiteral("peak_memory_rise_mb"),
+                  peakRise < 0 ? QStringLiteral("null") : number(peakRise / 1024.0)},
+                 {QStringLiteral("baseline"), QStringLiteral("\"plain file copy\"")}});
 }
 
 } // namespace qs::bench

@@ -14,5 +14,8 @@ void FigureSearch(const BenchContext& context, const QString& name, int mode, co
 void FigureBackup(const BenchContext& context);
 void FigureCompact(const BenchContext& context);
 void FigureFileSize(const BenchContext& context);
+// A stored file of `megabytes` MB added with LoadFile and Save, then written back with
+// SaveToDisk: the time of each, and how far the peak memory rose above the start (Linux).
+void FigureStoredFile(const BenchContext& context, int megabytes);
 
 } // namespace qs::bench

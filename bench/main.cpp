@@ -4,6 +4,7 @@
 // --db     library file (default: quillstone-bench-N.mdb in the temporary folder)
 // --reuse  keep an existing file at --db instead of building it again
 // --runs   timed runs of each operation; the median is printed (default 7)
+// --stored-mb  size of the stored file added and written back (default 200; 0 leaves it out)
 #include "Bench.h"
 #include "Figures.h"
 #include "PlainScan.h"
@@ -23,6 +24,7 @@ int main(int argc, char* argv[]) {
     BenchContext context;
     context.items = 100000;
     bool reuse = false;
+    int storedMb = 200;
     const QStringList args = app.arguments();
     for (int i = 1; i < args.size(); ++i) {
         const QString& arg = args.at(i);
@@ -33,10 +35,14 @@ int main(int argc, char* argv[]) {
             context.path = QFileInfo(args.at(++i)).absoluteFilePath();
         } else if (arg == QLatin1String("--runs") && hasValue) {
             context.runs = qMax(1, args.at(++i).toInt());
+        } else if (arg == QLatin1String("--stored-mb") && hasValue) {
+            storedMb = qMax(0, args.at(++i).toInt());
         } else if (arg == QLatin1String("--reuse")) {
             reuse = true;
         } else {
-            std::fprintf(stderr, "usage: bench [--items N] [--db path] [--reuse] [--runs R]\n");
+            std::fprintf(
+                stderr,
+                "usage: bench [--items N] [--db path] [--reuse] [--runs R] [--stored-mb M]\n");
             return 2;
         }
     }
@@ -80,6 +86,8 @@ int main(int argc, char* argv[]) {
                      common + QStringLiteral(" Printer"), false);
         FigureBackup(context);
         FigureCompact(context);
+        if (storedMb > 0)
+            FigureStoredFile(context, storedMb);
     } catch (const qs::QsError& e) {
         std::fprintf(stderr, "bench: %s\n", qPrintable(e.description()));
         return 1;
