@@ -1,12 +1,13 @@
 #include "mPathHelpers.h"
 
 #include "Host.h"
+#include "VbStrings.h"
 #include "mDriveInfo.h"
 
 namespace qs {
 
 QString Get_FilePath_FromFilePathFileNameFileType(const QString& strPath) {
-    const QString path = strPath.trimmed();
+    const QString path = VbTrim(strPath);
     if (path.isEmpty())
         return QString();
     return path.left(path.lastIndexOf(kPathSeparator) + 1);

@@ -84,6 +84,9 @@ TEST(Paths, FilePathAndFileNameSplitAtTheLastSeparator) {
               QStringLiteral("/d/e/"));
     EXPECT_EQ(Get_FilePath_FromFilePathFileNameFileType(QString()), QString());
     EXPECT_EQ(Get_FilePath_FromFilePathFileNameFileType(QStringLiteral("f.txt")), QString());
+    // Only blanks are trimmed: a tab in front stays part of the path.
+    EXPECT_EQ(Get_FilePath_FromFilePathFileNameFileType(QStringLiteral("\t/d/f.txt ")),
+              QStringLiteral("\t/d/"));
     EXPECT_EQ(StripFileName(QStringLiteral("/d/e/f.txt")), QStringLiteral("f.txt"));
     EXPECT_EQ(StripFileName(QStringLiteral("f.txt")), QStringLiteral("f.txt"));
     EXPECT_EQ(StripFileName(QStringLiteral("/d/e/")), QString());
