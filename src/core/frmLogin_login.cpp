@@ -121,7 +121,7 @@ void frmLogin::cmdOk_Click() {
         // The pointer is left to frmMain.
         Unload();
     } catch (...) {
-        HandleFailure("frmLogin:cmdOK_Click;");
+        HandleFailure("frmLogin:cmdOk_Click;");
     }
 }
 

@@ -278,6 +278,22 @@ TEST_F(Login, ForgottenPasswordWithoutAnIdAsksForItFirst) {
     EXPECT_EQ(form().focusWidget(), form().txtUserId);
 }
 
+TEST_F(Login, ServiceFailureIsReportedUnderTheLoginProcedureWithThePointerBack) {
+    form().Show();
+    pointDatabaseAt(libraryPath(QStringLiteral("Gone.mdb")));
+    type(QStringLiteral("ada"), QStringLiteral("secret"));
+    hostScript.expectMsgBox(QStringLiteral("does not exist in the specified path"));
+    form().cmdOk->click();
+
+    const HostCall report = hostScript.msgBoxes().last();
+    EXPECT_TRUE(report.title.endsWith(QStringLiteral("frmLogin:cmdOk_Click;")))
+        << report.title.toStdString();
+    EXPECT_EQ(report.icon(), vbCritical);
+    EXPECT_EQ(hostScript.mousePointer(), vbDefault);
+    EXPECT_FALSE(form().ValidUser());
+    EXPECT_EQ(Forms::find<frmMain>(), nullptr);
+}
+
 TEST_F(Login, ExitEndsTheProgram) {
     form().Show();
     EXPECT_TRUE(hostScript.runToEnd([this] { form().cmdExit_Click(); }));
