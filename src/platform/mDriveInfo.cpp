@@ -34,7 +34,8 @@ QString ExtractFilePath(const QString& strPath, bool blnKeepSlash) {
 }
 
 bool FileExists(const QString& strPath) {
-    if (strPath.isEmpty())
+    // The file search finds no entry for a name that ends in the separator.
+    if (strPath.isEmpty() || strPath.endsWith(kPathSeparator))
         return false;
     const QFileInfo info(strPath);
     const QString name = info.fileName();

@@ -18,6 +18,7 @@ QString TrimNull(const QString& strText);
 QString ExtractFilePath(const QString& strPath, bool blnKeepSlash = true);
 
 // True when the file or folder is there; wildcards ("*", "?") in the last part match any entry.
+// A path ending in the separator gives false.
 bool FileExists(const QString& strPath);
 
 } // namespace qs

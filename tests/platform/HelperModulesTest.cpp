@@ -109,6 +109,8 @@ TEST(Paths, FileExistsForFilesFoldersAndPatterns) {
     f.close();
     EXPECT_TRUE(FileExists(file));
     EXPECT_TRUE(FileExists(home.path()));
+    // A path that ends in the separator names no entry, not even the folder itself.
+    EXPECT_FALSE(FileExists(FormatPath(home.path())));
     EXPECT_TRUE(FileExists(home.file(QStringLiteral("*.bas"))));
     EXPECT_FALSE(FileExists(home.file(QStringLiteral("*.cls"))));
     EXPECT_FALSE(FileExists(home.file(QStringLiteral("b.bas"))));
