@@ -31,23 +31,28 @@ function(qs_add_library name folder)
     qs_set_warnings(${name})
 endfunction()
 
-# The window subsystems: each folder under src/ that has sources becomes a library that may call
-# any other of the group.  QS_GUI_GROUP lists the ones that exist.
-macro(qs_add_gui_group core)
-    set(QS_GUI_GROUP "")
-    foreach(_lib ${ARGN})
-        string(REPLACE "qs_" "" _folder ${_lib})
-        file(GLOB _probe CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/src/${_folder}/*.cpp)
-        if(_probe)
-            qs_add_library(${_lib} src/${_folder} qs_platform qs_dataservice)
-            list(APPEND QS_GUI_GROUP ${_lib})
+# qs_add_gui(name folders...): one object library of the window subsystems under src/<folder>.
+# QS_GUI_FOLDERS lists the folders that have sources.
+function(qs_add_gui name)
+    set(_all "")
+    set(_dirs "")
+    set(_folders "")
+    foreach(_folder ${ARGN})
+        file(GLOB _srcs CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/src/${_folder}/*.cpp
+                                          ${CMAKE_CURRENT_SOURCE_DIR}/src/${_folder}/*.h
+                                          ${CMAKE_CURRENT_SOURCE_DIR}/src/${_folder}/*.qrc)
+        if(_srcs)
+            list(APPEND _all ${_srcs})
+            list(APPEND _dirs ${CMAKE_CURRENT_SOURCE_DIR}/src/${_folder})
+            list(APPEND _folders ${_folder})
         endif()
     endforeach()
-    foreach(_lib ${QS_GUI_GROUP})
-        target_link_libraries(${_lib} PUBLIC ${core})
-        target_link_libraries(${core} PUBLIC ${_lib})
-    endforeach()
-endmacro()
+    add_library(${name} OBJECT ${_all})
+    target_include_directories(${name} PUBLIC ${_dirs})
+    target_link_libraries(${name} PUBLIC qs_platform qs_dataservice)
+    qs_set_warnings(${name})
+    set(QS_GUI_FOLDERS ${_folders} PARENT_SCOPE)
+endfunction()
 
 # qs_add_test_folder(folder libs...): one GoogleTest executable of tests/<folder>/*.cpp, run
 # offscreen under a private home with a time limit and the folder as label.

@@ -1,5 +1,6 @@
 // The controls of frmUser and their events.
 
+#include "EventWiring.h"
 #include "frmUser.h"
 
 #include "ComboBox.h"
@@ -85,17 +86,17 @@ void frmUser::buildLayout() {
 }
 
 void frmUser::connectEvents() {
-    const auto wire = [this](QPushButton* cmd, void (frmUser::*handler)()) {
-        connect(cmd, &QPushButton::clicked, this, [this, handler] { (this->*handler)(); });
+    const auto wire = [this](QPushButton* cmd, const char* name, void (frmUser::*handler)()) {
+        Wire(this, cmd, &QPushButton::clicked, name, [this, handler] { (this->*handler)(); });
     };
-    wire(cmdUserAdd, &frmUser::cmdUserAdd_Click);
-    wire(cmdUserEdit, &frmUser::cmdUserEdit_Click);
-    wire(cmdUserUpdate, &frmUser::cmdUserUpdate_Click);
-    wire(cmdUserDelete, &frmUser::cmdUserDelete_Click);
-    wire(cmdUserCancel, &frmUser::cmdUserCancel_Click);
-    wire(cmdHelp, &frmUser::cmdHelp_Click);
-    wire(cmdExit, &frmUser::cmdExit_Click);
-    cboUsers->Click = [this] { cboUsers_Click(); };
+    wire(cmdUserAdd, "cmdUserAdd_Click", &frmUser::cmdUserAdd_Click);
+    wire(cmdUserEdit, "cmdUserEdit_Click", &frmUser::cmdUserEdit_Click);
+    wire(cmdUserUpdate, "cmdUserUpdate_Click", &frmUser::cmdUserUpdate_Click);
+    wire(cmdUserDelete, "cmdUserDelete_Click", &frmUser::cmdUserDelete_Click);
+    wire(cmdUserCancel, "cmdUserCancel_Click", &frmUser::cmdUserCancel_Click);
+    wire(cmdHelp, "cmdHelp_Click", &frmUser::cmdHelp_Click);
+    wire(cmdExit, "cmdExit_Click", &frmUser::cmdExit_Click);
+    Wire(this, cboUsers->Click, "cboUsers_Click", [this] { cboUsers_Click(); });
 }
 
 } // namespace qs

@@ -1,6 +1,7 @@
 #include "frmDatabase.h"
 
 #include "AppPaths.h"
+#include "EventWiring.h"
 #include "Globals.h"
 #include "Host.h"
 #include "cLibraryService.h"
@@ -94,9 +95,9 @@ void frmDatabase::buildLayout() {
     layout->addWidget(frmeDatabase);
     layout->addLayout(buttons);
 
-    connect(cmdOK, &QPushButton::clicked, this, [this] { cmdOK_Click(); });
-    connect(cmdCancel, &QPushButton::clicked, this, [this] { cmdExit_Click(); });
-    connect(cmdHelp, &QPushButton::clicked, this, [this] { cmdHelp_Click(); });
+    Wire(this, cmdOK, &QPushButton::clicked, "cmdOK_Click", [this] { cmdOK_Click(); });
+    Wire(this, cmdCancel, &QPushButton::clicked, "cmdExit_Click", [this] { cmdExit_Click(); });
+    Wire(this, cmdHelp, &QPushButton::clicked, "cmdHelp_Click", [this] { cmdHelp_Click(); });
 }
 
 void frmDatabase::Form_Load() {

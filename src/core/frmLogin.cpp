@@ -1,5 +1,6 @@
 #include "frmLogin.h"
 
+#include "EventWiring.h"
 #include "Globals.h"
 #include "Host.h"
 #include "mDriveInfo.h"
@@ -103,16 +104,18 @@ void frmLogin::buildLayout() {
 }
 
 void frmLogin::connectEvents() {
-    connect(cmdOk, &QPushButton::clicked, this, [this] { cmdOk_Click(); });
-    connect(cmdChangePwd, &QPushButton::clicked, this, [this] { cmdChangePwd_Click(); });
-    connect(cmdCancel, &QPushButton::clicked, this, [this] { cmdCancel_Click(); });
-    connect(cmdForgotPwd, &QPushButton::clicked, this, [this] { cmdForgotPwd_Click(); });
-    connect(cmdExit, &QPushButton::clicked, this, [this] { cmdExit_Click(); });
-    connect(txtPassword, &QLineEdit::returnPressed, this, [this] {
+    Wire(this, cmdOk, &QPushButton::clicked, "cmdOk_Click", [this] { cmdOk_Click(); });
+    Wire(this, cmdChangePwd, &QPushButton::clicked, "cmdChangePwd_Click",
+         [this] { cmdChangePwd_Click(); });
+    Wire(this, cmdCancel, &QPushButton::clicked, "cmdCancel_Click", [this] { cmdCancel_Click(); });
+    Wire(this, cmdForgotPwd, &QPushButton::clicked, "cmdForgotPwd_Click",
+         [this] { cmdForgotPwd_Click(); });
+    Wire(this, cmdExit, &QPushButton::clicked, "cmdExit_Click", [this] { cmdExit_Click(); });
+    Wire(this, txtPassword, &QLineEdit::returnPressed, "txtPassword_KeyPress", [this] {
         int key = 13;
         txtPassword_KeyPress(key);
     });
-    connect(txtConfirmPwd, &QLineEdit::returnPressed, this, [this] {
+    Wire(this, txtConfirmPwd, &QLineEdit::returnPressed, "txtConfirmPwd_KeyPress", [this] {
         int key = 13;
         txtConfirmPwd_KeyPress(key);
     });
@@ -133,7 +136,9 @@ bool frmLogin::eventFilter(QObject* watched, QEvent* event) {
         else if (watched == txtConfirmPwd)
             handler = &frmLogin::txtConfirmPwd_GotFocus;
         if (handler)
-            QTimer::singleShot(0, this, [this, handler] { (this->*handler)(); });
+            QTimer::singleShot(0, this, [this, handler] {
+                RunHandler(this, "GotFocus", [this, handler] { (this->*handler)(); });
+            });
     }
     return FormBase::eventFilter(watched, event);
 }

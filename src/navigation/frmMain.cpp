@@ -10,10 +10,12 @@
 #include "Toolbar.h"
 #include "TreeView.h"
 #include "cLibraryService.h"
+#include "frmAbout.h"
 #include "frmLogin.h"
 #include "frmUser.h"
 #include "mDriveInfo.h"
 #include "mErrorHandling.h"
+#include "mHelpRoutines.h"
 #include "mPathHelpers.h"
 #include "mRegConstants.h"
 #include "mRegistry.h"
@@ -68,9 +70,7 @@ void frmMain::Form_Load() {
         gblnCodeView = true;
         mstrFirstCategoryClick = QStringLiteral("Yes");
         mstrFirstMainClick = QStringLiteral("Yes");
-        lvwRevHistSetup(lvwRevisionHistory);
         StartUp();
-        SettingCategory(tvwCategories);
         InitControls();
         CenterOnScreen();
         if (gstrAccessType != QLatin1String("Admin"))
@@ -121,8 +121,6 @@ void frmMain::StartUp() {
                      false);
         FillComboBox(QStringLiteral("Category"), cboCategory, false, false, true, QString(), true,
                      true);
-        FillTreeViewBookmarks(gstrUserId);
-        FillTreeViewCategory();
     } catch (...) {
         HandleFailure("frmMain:StartUp;");
     }
@@ -186,6 +184,41 @@ void frmMain::mnuUser_Click() {
         host().setMousePointer(vbDefault);
     } catch (...) {
         HandleFailure("frmMain:mnuUser_Click;");
+    }
+}
+
+void frmMain::mnuBookmarks_Click() {
+    try {
+        SSTabNavigate->setTab(1);
+    } catch (...) {
+        HandleFailure("frmMain:mnuBookmarks_Click;");
+    }
+}
+
+void frmMain::mnuHelpContents_Click() {
+    try {
+        ShowHelpContents();
+    } catch (...) {
+        HandleFailure("frmMain:mnuHelpContents_Click;");
+    }
+}
+
+void frmMain::mnuHelpSearch_Click() {
+    try {
+        ShowHelpSearch();
+    } catch (...) {
+        HandleFailure("frmMain:mnuHelpSearch_Click;");
+    }
+}
+
+void frmMain::mnuAboutApp_Click() {
+    try {
+        setEnabled(false);
+        Forms::get<frmAbout>().Show(vbModal);
+        setEnabled(true);
+    } catch (...) {
+        setEnabled(true);
+        HandleFailure("frmMain:mnuAboutApp_Click;");
     }
 }
 

@@ -13,6 +13,7 @@ class QRadioButton;
 
 namespace qs {
 
+class Button;
 class ComboBox;
 class ListBox;
 class ListView;
@@ -153,49 +154,26 @@ public:
     void InitControls();
     void SelectDataBase();
 
-    // ---- Menu commands.  Those whose subsystem is not built yet do nothing. ----
-    void mnuRTF_Click();
-    void mnuPDF_Click();
-    void mnuXml_Click();
-    void mnuHtml_Click();
-    void mnuTextFile_Click();
+    // ---- Commands.  A menu entry or tool-bar button whose command is not built yet reaches
+    // no handler; the routing test lists those. ----
     void mnuLoginReturn_Click();
     void mnuExit_Click();
-    void mnuFind_Click();
-    void mnuCopy_Click();
-    void mnuAdvancedCopy_Click();
-    void mnuSelectAll_Click();
-    void mnuBookMark_Click();
-    void mnuApiViewer_Click();
     void mnuBookmarks_Click();
-    void mnuBookMarkSch_Click();
-    void mnuAuthor_Click();
     void mnuUser_Click();
-    void mnuAddCategory_Click();
-    void mnuAddFolder_Click();
-    void mnuAddSourceCode_Click();
-    void mnuAddSourceFile_Click();
-    void mnuBookMarkA_Click();
-    void mnuDelete_Click();
-    void mnuEditSource_Click();
-    void mnuRename_Click();
     void mnuOpenDatabase_Click();
-    void mnuNewDatabase_Click();
-    void mnuBackup_Click();
-    void mnuCompact_Click();
     void mnuHelpContents_Click();
     void mnuHelpSearch_Click();
-    void mnuHelpOnHelp_Click();
     void mnuAboutApp_Click();
-    void mnuDelBookmark_Click();
+    void tbToolBar_ButtonClick(Button& button);
+    // True when a tool-bar button of this tag reaches a command.
+    static bool ToolBarRoutes(const QString& tag);
 
-    // ---- Procedures of the tree, pane and bookmark subsystems that start-up calls ----
-    void lvwRevHistSetup(ListView* list);
-    void SettingCategory(TreeView* tree);
-    void FillTreeViewBookmarks(const QString& strUserId);
-    void FillTreeViewCategory();
-    void ClearAllControls();
+    // ---- Item panes: the clear helpers and the whole-window lock ----
+    void ClearOriginalControls();
+    void ClearRevisionControls();
     void ClearControlsSourceFileTab();
+    void ClearAllControls();
+    void EnableControls(bool on);
 
     // ---- Window members ----
     int mintDragFormat = 0;         // clipboard format "Tarnwick" of the node drag
@@ -207,6 +185,7 @@ public:
     QString mstrFirstCategoryClick; // "Yes" until the category tree's first click
     QString mstrFirstMainClick;     // "Yes" until the item tree's first click
     bool mblnFilling = false;
+    bool mblnFindHit = false;   // a text search has hit something in RichTextBoxCode
     QString mstrDatabaseFolder; // folder of the database last chosen or made here
 
 protected:
@@ -220,6 +199,7 @@ private:
     void buildMenus();
     void buildToolBar();
     void connectMenus();
+    void clearSourceFileFields(bool withVerInfo);
     // Hides the commands that change anything from a user who is not an administrator.
     void ApplyAccessLevel();
 };

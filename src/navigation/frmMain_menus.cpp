@@ -2,6 +2,9 @@
 
 #include "frmMain.h"
 
+#include "EventWiring.h"
+#include "Toolbar.h"
+
 #include <QAction>
 #include <QMenu>
 #include <QMenuBar>
@@ -106,44 +109,27 @@ void frmMain::buildMenus() {
 }
 
 void frmMain::connectMenus() {
-    const auto wire = [this](QAction* action, void (frmMain::*handler)()) {
-        connect(action, &QAction::triggered, this, [this, handler] { (this->*handler)(); });
+    struct Route {
+        QAction* action;
+        const char* handler;
+        void (frmMain::*member)();
     };
     // mnuImportQSDB has no command behind it.
-    wire(mnuRTF, &frmMain::mnuRTF_Click);
-    wire(mnuPDF, &frmMain::mnuPDF_Click);
-    wire(mnuXml, &frmMain::mnuXml_Click);
-    wire(mnuHtml, &frmMain::mnuHtml_Click);
-    wire(mnuTextFile, &frmMain::mnuTextFile_Click);
-    wire(mnuLoginReturn, &frmMain::mnuLoginReturn_Click);
-    wire(mnuExit, &frmMain::mnuExit_Click);
-    wire(mnuFind, &frmMain::mnuFind_Click);
-    wire(mnuCopy, &frmMain::mnuCopy_Click);
-    wire(mnuAdvancedCopy, &frmMain::mnuAdvancedCopy_Click);
-    wire(mnuSelectAll, &frmMain::mnuSelectAll_Click);
-    wire(mnuBookMark, &frmMain::mnuBookMark_Click);
-    wire(mnuApiViewer, &frmMain::mnuApiViewer_Click);
-    wire(mnuBookMarkS, &frmMain::mnuBookmarks_Click);
-    wire(mnuBookMarkSch, &frmMain::mnuBookMarkSch_Click);
-    wire(mnuAuthor, &frmMain::mnuAuthor_Click);
-    wire(mnuUser, &frmMain::mnuUser_Click);
-    wire(mnuAddCategory, &frmMain::mnuAddCategory_Click);
-    wire(mnuAddFolder, &frmMain::mnuAddFolder_Click);
-    wire(mnuAddSourceCode, &frmMain::mnuAddSourceCode_Click);
-    wire(mnuAddSourceFile, &frmMain::mnuAddSourceFile_Click);
-    wire(mnuBookMarkA, &frmMain::mnuBookMarkA_Click);
-    wire(mnuDelete, &frmMain::mnuDelete_Click);
-    wire(mnuEditSource, &frmMain::mnuEditSource_Click);
-    wire(mnuRename, &frmMain::mnuRename_Click);
-    wire(mnuOpenDatabase, &frmMain::mnuOpenDatabase_Click);
-    wire(mnuNewDatabase, &frmMain::mnuNewDatabase_Click);
-    wire(mnuBackup, &frmMain::mnuBackup_Click);
-    wire(mnuCompact, &frmMain::mnuCompact_Click);
-    wire(mnuHelpContents, &frmMain::mnuHelpContents_Click);
-    wire(mnuHelpSearch, &frmMain::mnuHelpSearch_Click);
-    wire(mnuHelpOnHelp, &frmMain::mnuHelpOnHelp_Click);
-    wire(mnuAboutApp, &frmMain::mnuAboutApp_Click);
-    wire(mnuDelBookmark, &frmMain::mnuDelBookmark_Click);
+    const Route routes[] = {
+        {mnuLoginReturn, "mnuLoginReturn_Click", &frmMain::mnuLoginReturn_Click},
+        {mnuExit, "mnuExit_Click", &frmMain::mnuExit_Click},
+        {mnuBookMarkS, "mnuBookmarks_Click", &frmMain::mnuBookmarks_Click},
+        {mnuUser, "mnuUser_Click", &frmMain::mnuUser_Click},
+        {mnuOpenDatabase, "mnuOpenDatabase_Click", &frmMain::mnuOpenDatabase_Click},
+        {mnuHelpContents, "mnuHelpContents_Click", &frmMain::mnuHelpContents_Click},
+        {mnuHelpSearch, "mnuHelpSearch_Click", &frmMain::mnuHelpSearch_Click},
+        {mnuAboutApp, "mnuAboutApp_Click", &frmMain::mnuAboutApp_Click},
+    };
+    for (const Route& r : routes)
+        Wire(this, r.action, &QAction::triggered, r.handler,
+             [this, member = r.member] { (this->*member)(); });
+    Wire(this, tbToolBar->ButtonClick, "tbToolBar_ButtonClick",
+         [this](Button& button) { tbToolBar_ButtonClick(button); });
 }
 
 } // namespace qs

@@ -2,8 +2,13 @@
 
 #include "frmMain.h"
 
+#include "Host.h"
 #include "ImageList.h"
+#include "SSTab.h"
 #include "Toolbar.h"
+#include "mErrorHandling.h"
+
+#include <QHash>
 
 namespace qs {
 
@@ -38,7 +43,37 @@ const ToolButton kButtons[] = {
     {"Print", "Print", "Print", "Print"},
 };
 
+// The command behind each tag.  A tag missing here reaches nothing yet.
+using Command = void (*)(frmMain&);
+const QHash<QString, Command>& toolBarCommands() {
+    static const QHash<QString, Command> commands = {
+        {QStringLiteral("BookMarks"), [](frmMain& f) { f.SSTabNavigate->setTab(1); }},
+        {QStringLiteral("Open DataBase"),
+         [](frmMain& f) {
+             f.SSTabNavigate->setTab(0);
+             f.SelectDataBase();
+         }},
+    };
+    return commands;
+}
+
 } // namespace
+
+bool frmMain::ToolBarRoutes(const QString& tag) {
+    return toolBarCommands().contains(tag);
+}
+
+void frmMain::tbToolBar_ButtonClick(Button& button) {
+    try {
+        host().setMousePointer(vbHourglass);
+        const Command command = toolBarCommands().value(button.Tag());
+        if (command)
+            command(*this);
+        host().setMousePointer(vbDefault);
+    } catch (...) {
+        HandleFailure("frmMain:tbToolBar_ButtonClick;");
+    }
+}
 
 void frmMain::buildToolBar() {
     tbToolBar->setImageList(&ImageList::instance());

@@ -1,5 +1,6 @@
 #include "FormBase.h"
 
+#include "EventWiring.h"
 #include "Host.h"
 
 #include <QCloseEvent>
@@ -77,7 +78,9 @@ void FormBase::closeEvent(QCloseEvent* event) {
         event->accept();
         return;
     }
-    if (Unload())
+    bool unloaded = false;
+    RunHandler(this, "Form_Unload", [&] { unloaded = Unload(); });
+    if (unloaded)
         event->accept();
     else
         event->ignore();

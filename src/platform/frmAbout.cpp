@@ -1,5 +1,6 @@
 #include "frmAbout.h"
 
+#include "EventWiring.h"
 #include "Host.h"
 #include "mErrorHandling.h"
 
@@ -40,8 +41,9 @@ frmAbout::frmAbout() : FormBase(QStringLiteral("frmAbout")) {
     layout->addLayout(text, 1);
     layout->addLayout(buttons);
 
-    connect(cmdOK, &QPushButton::clicked, this, [this] { cmdOK_Click(); });
-    connect(cmdSysInfo, &QPushButton::clicked, this, [this] { cmdSysInfo_Click(); });
+    Wire(this, cmdOK, &QPushButton::clicked, "cmdOK_Click", [this] { cmdOK_Click(); });
+    Wire(this, cmdSysInfo, &QPushButton::clicked, "cmdSysInfo_Click",
+         [this] { cmdSysInfo_Click(); });
 }
 
 void frmAbout::Form_Load() {
