@@ -13,7 +13,12 @@ QString gstrUserName;
 short gintAccessLevel = 0;
 QString gstrAccessType;
 
-std::unique_ptr<cLibraryService> gobjLibrary;
+std::shared_ptr<cLibraryService> gobjLibrary;
+
+std::shared_ptr<cLibraryService> NewLibrary() {
+    gobjLibrary = std::make_shared<cLibraryService>();
+    return gobjLibrary;
+}
 bool gblnFirstUser = false;
 bool gblnFirstUserCancelled = false;
 bool gblnSwitchingDatabase = false;

@@ -19,8 +19,14 @@ extern QString gstrAccessType; // "Admin", "User" or "Unauthorized"
 
 // ---- Start-up ----
 // The one service object; replaced by a fresh one before most batches of calls, since a new
-// object reads the database path afresh.
-extern std::unique_ptr<cLibraryService> gobjLibrary;
+// object reads the database path afresh.  A handler that yields (DoEvents) holds its own copy
+// across the yield, since an event run meanwhile may replace or release the global:
+//     const auto library = NewLibrary();
+//     host().doEvents();
+//     library->GetLookup(...);
+extern std::shared_ptr<cLibraryService> gobjLibrary;
+// Replaces gobjLibrary with a new service object and returns a hold on it.
+std::shared_ptr<cLibraryService> NewLibrary();
 extern bool gblnFirstUser;          // the database holds no user yet; lasts for the process
 extern bool gblnFirstUserCancelled; // the first-user form was left with no user made
 extern bool gblnSwitchingDatabase;  // a login to another database from the main window

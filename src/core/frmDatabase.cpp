@@ -190,7 +190,7 @@ void frmDatabase::NewDatabase() {
         SaveDatabaseSetting(REG_VAL_DATABASE_PATH, mstrDatabasePath);
         SaveDatabaseSetting(REG_VAL_DATABASE_FILENAME, WithMdb(file.fileName()));
 
-        gobjLibrary = std::make_unique<cLibraryService>();
+        gobjLibrary = std::make_shared<cLibraryService>();
         host().doEvents();
 
         const QString databasePath = WithMdb(chosen);

@@ -111,7 +111,7 @@ void Main() {
             return;
         }
 
-        gobjLibrary = std::make_unique<cLibraryService>();
+        gobjLibrary = std::make_shared<cLibraryService>();
         gstrSettingsFile = SettingsFilePath();
 
         if (!UsersExist()) {
@@ -190,7 +190,7 @@ void FillComboBox(const QString& strTable, ComboBox* cboCombo, bool blnShowField
     try {
         if (blnClearFirst)
             cboCombo->Clear();
-        gobjLibrary = std::make_unique<cLibraryService>();
+        gobjLibrary = std::make_shared<cLibraryService>();
         host().doEvents();
 
         if (strTable == QLatin1String("Authors")) {
