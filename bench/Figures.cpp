@@ -3,6 +3,8 @@
 #include "PlainScan.h"
 #include "SqliteStore.h"
 #include "SyntheticLibrary.h"
+#include "SyntheticModule.h"
+#include "cCodeParser.h"
 #include "cLibraryService.h"
 #include "cSourceFile.h"
 
@@ -13,6 +15,7 @@
 #include <QRandomGenerator>
 #include <QSqlQuery>
 #include <fstream>
+#include <memory>
 #include <string>
 
 namespace qs::bench {
@@ -251,6 +254,34 @@ void FigureStoredFile(const BenchContext& context, int megabytes) {
                  {QStringLiteral("peak_memory_rise_mb"),
                   peakRise < 0 ? QStringLiteral("null") : number(peakRise / 1024.0)},
                  {QStringLiteral("baseline"), QStringLiteral("\"plain file copy\"")}});
+}
+
+void FigureParseModule(const BenchContext& context) {
+    const SyntheticModule module = SyntheticModule::build(1 << 20);
+    std::unique_ptr<cCodeParser> parser;
+    const double ms = MedianMs(context.runs, [&] {
+        parser = std::make_unique<cCodeParser>();
+        parser->ParseSourceCode(module.text);
+    });
+    qint64 lines = 0;
+    const double baseline =
+        MedianMs(context.runs, [&] { lines = module.text.split(QStringLiteral("\r\n")).size(); });
+    qint64 members = 0;
+    qint64 memberLines = 0;
+    for (const MemberList& list :
+         {parser->Functions(), parser->Subs(), parser->APIDeclares(), parser->Types(),
+          parser->Enums(), parser->Constants(), parser->ModuleVars(), parser->Properties()}) {
+        if (list.LBound() == 0)
+            continue;
+        members += list.UBound();
+        for (const QString& element : list.elements())
+            memberLines += element.count(QLatin1String("\r\n"));
+    }
+    PrintFigure(context, QStringLiteral("parse_module_1mb"), ms, baseline, members,
+                members == module.members && memberLines == module.memberLines &&
+                    lines == module.lines,
+                {{QStringLiteral("chars"), QString::number(module.text.size())},
+                 {QStringLiteral("lines"), QString::number(lines)}});
 }
 
 } // namespace qs::bench

@@ -17,5 +17,8 @@ void FigureFileSize(const BenchContext& context);
 // A stored file of `megabytes` MB added with LoadFile and Save, then written back with
 // SaveToDisk: the time of each, and how far the peak memory rose above the start (Linux).
 void FigureStoredFile(const BenchContext& context, int megabytes);
+// A module of about 1 MB split into its members by cCodeParser, beside a plain split of the same
+// text into lines.
+void FigureParseModule(const BenchContext& context);
 
 } // namespace qs::bench

@@ -86,6 +86,7 @@ int main(int argc, char* argv[]) {
                      common + QStringLiteral(" Printer"), false);
         FigureBackup(context);
         FigureCompact(context);
+        FigureParseModule(context);
         if (storedMb > 0)
             FigureStoredFile(context, storedMb);
     } catch (const qs::QsError& e) {

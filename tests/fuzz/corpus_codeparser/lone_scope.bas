@@ -1,0 +1,5 @@
+Public Sub A()
+End Sub
+Public
+Public Sub B()
+End Sub
