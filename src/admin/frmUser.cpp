@@ -62,7 +62,7 @@ QString frmUser::actingUserId() const {
 void frmUser::Form_Load() {
     try {
         CenterOnScreen();
-        gobjLibrary = std::make_unique<cLibraryService>();
+        gobjLibrary = std::make_shared<cLibraryService>();
         PopulateUserCbo();
         FillComboBox(QStringLiteral("AccessType"), cboAccessType);
         cboSearchByItemData(*cboAccessType, gintAccessLevel);

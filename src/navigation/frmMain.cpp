@@ -99,7 +99,7 @@ void frmMain::ApplyAccessLevel() {
 
 void frmMain::StartUp() {
     try {
-        gobjLibrary = std::make_unique<cLibraryService>();
+        gobjLibrary = std::make_shared<cLibraryService>();
         mblnViewBookMarks =
             GetRegSetting(QString::fromLatin1(REG_KEY_TOOLBARSETTINGS),
                           QString::fromLatin1(REG_VAL_VIEWBOOKMARKS), REG_DEF_VIEWBOOKMARKS)
