@@ -17,5 +17,8 @@ void FigureFileSize(const BenchContext& context);
 // A stored file of `megabytes` MB added with LoadFile and Save, then written back with
 // SaveToDisk: the time of each, and how far the peak memory rose above the start (Linux).
 void FigureStoredFile(const BenchContext& context, int megabytes);
+// About `megabytes` MB of the code pane's rich text converted to HTML, beside a plain scan that
+// drops the control words of the same text.
+void FigureRtfToHtml(const BenchContext& context, int megabytes);
 
 } // namespace qs::bench

@@ -6,7 +6,8 @@ namespace qs {
 
 namespace {
 
-constexpr QStringView kNbsp = u"&nbsp;";
+constexpr std::u16string_view kNbsp = u"&nbsp;";
+constexpr std::u16string_view kSectionEnd = u"\r\n\\par";
 
 } // namespace
 
@@ -16,7 +17,7 @@ QString RtfHtmlScanner::Convert(const QString& rtf, const QString& options) {
 }
 
 RtfHtmlScanner::RtfHtmlScanner(const QString& text, const QString& options)
-    : rtf(text), options(options), sectionEnds(rtf, u"\r\n\\par"), braces(rtf, u"}") {
+    : rtf(text), options(options), braces(rtf, u"}") {
     if (options.contains(QLatin1String("+CR")))
         lineBreak = QStringLiteral("\r\n");
     keepHtml = options.contains(QLatin1String("+I"));
@@ -27,6 +28,8 @@ RtfHtmlScanner::RtfHtmlScanner(const QString& text, const QString& options)
 
 QString RtfHtmlScanner::run() {
     html.clear();
+    // Room for what a line of code usually turns into, so the text is seldom moved.
+    html.reserve(rtf.size() + rtf.size() / 2);
     lineEndTag.clear();
     qsizetype found = rtf.find(1, u"\r\n\\deflang");
     if (!found)
@@ -34,7 +37,7 @@ QString RtfHtmlScanner::run() {
     if (found) {
         // With the second form this is the "d" of the word, which then reads as text.
         sectionStart = found + 2;
-        sectionEnd = sectionEnds.find(sectionStart);
+        sectionEnd = findSectionEnd(sectionStart);
         if (!sectionEnd)
             sectionEnd = rtf.find(sectionStart, u"\\par");
         if (sectionEnd)
@@ -48,11 +51,11 @@ void RtfHtmlScanner::scanSections() {
         for (p = sectionStart; p <= sectionEnd;)
             scanCharacter();
         sectionStart = sectionEnd + 2;
-        sectionEnd = sectionEnds.find(sectionEnd + 1);
+        sectionEnd = findSectionEnd(sectionEnd + 1);
         html += previousLineEndTag;
         html += sectionStartTag;
         html += lineStartTag;
-        html += currentLine;
+        html += QStringView(currentLine.data(), qsizetype(currentLine.size()));
         // Taken before the default is filled in, so the first two sections may join.
         previousLineEndTag = lineEndTag;
         if (lineEndTag.isEmpty())
@@ -60,7 +63,7 @@ void RtfHtmlScanner::scanSections() {
         if (!sectionEnd)
             return;
         sectionStartTag.clear();
-        currentLine.resize(0);
+        currentLine.clear();
         nbspChecked = 0;
         nbspBroken = false;
     }
@@ -87,23 +90,23 @@ void RtfHtmlScanner::scanCharacter() {
         if (keepHtml) {
             setPending(QChar(c));
         } else {
-            currentLine += QLatin1String("&lt;");
+            put(currentLine, u"&lt;");
             pendingText = {};
         }
         emitPending = true;
         break;
     case '>':
-        currentLine += keepHtml ? QLatin1String(">") : QLatin1String("&gt;");
+        put(currentLine, keepHtml ? QStringView(u">") : QStringView(u"&gt;"));
         pendingText = {};
         emitPending = true;
         break;
     case '&':
-        currentLine += QLatin1String("&amp;");
+        put(currentLine, u"&amp;");
         pendingText = {};
         emitPending = true;
         break;
     case '"':
-        currentLine += QLatin1String("&quot;");
+        put(currentLine, u"&quot;");
         pendingText = {};
         emitPending = true;
         break;
@@ -126,16 +129,17 @@ void RtfHtmlScanner::scanCharacter() {
 
 // Blanks that start a line keep their width; others may collapse in a browser.
 void RtfHtmlScanner::appendBlank() {
-    while (!nbspBroken && nbspChecked + kNbsp.size() <= currentLine.size()) {
-        if (QStringView(currentLine).sliced(nbspChecked, kNbsp.size()) == kNbsp)
+    while (!nbspBroken && std::size_t(nbspChecked) + kNbsp.size() <= currentLine.size()) {
+        if (std::u16string_view(currentLine).substr(std::size_t(nbspChecked), kNbsp.size()) ==
+            kNbsp)
             nbspChecked += kNbsp.size();
         else
             nbspBroken = true;
     }
-    if (!nbspBroken && nbspChecked == currentLine.size())
+    if (!nbspBroken && std::size_t(nbspChecked) == currentLine.size())
         currentLine += kNbsp;
     else
-        currentLine += QLatin1Char(' ');
+        currentLine += u' ';
 }
 
 void RtfHtmlScanner::emitStep() {
@@ -143,32 +147,35 @@ void RtfHtmlScanner::emitStep() {
         if (!alignment.isEmpty()) {
             inTable = true;
             // The table itself stays on the left; the row carries the alignment.
-            currentLine += QLatin1String("<TABLE ALIGN=\"left\" CELLSPACING=0 CELLPADDING=0 "
-                                         "WIDTH=\"100%\"><TR ALIGN=\"");
-            currentLine += alignment == QLatin1String("right") ? QLatin1String("right")
-                                                               : QLatin1String("center");
-            currentLine += QLatin1String("\"><TD>");
+            currentLine += u"<TABLE ALIGN=\"left\" CELLSPACING=0 CELLPADDING=0 "
+                           u"WIDTH=\"100%\"><TR ALIGN=\"";
+            currentLine += alignment == QLatin1String("right") ? u"right" : u"center";
+            currentLine += u"\"><TD>";
             alignment.clear();
         }
-        currentLine += QLatin1String("<FONT");
+        currentLine += u"<FONT";
         if (!fontFace.isEmpty()) {
-            currentLine += QLatin1String(" FACE=\"");
-            currentLine += fontFace;
-            currentLine += QLatin1Char('"');
+            currentLine += u" FACE=\"";
+            put(currentLine, fontFace);
+            currentLine += u'"';
         }
         if (!fontColour.isEmpty()) {
-            currentLine += QLatin1String(" COLOR=\"");
-            currentLine += fontColour;
-            currentLine += QLatin1Char('"');
+            currentLine += u" COLOR=\"";
+            put(currentLine, fontColour);
+            currentLine += u'"';
         }
         if (!fontSizeSet.isEmpty()) {
-            currentLine += QLatin1String(" SIZE = \"");
-            currentLine += QString::number(fontSize);
-            currentLine += QLatin1Char('"');
+            currentLine += u" SIZE = \"";
+            // Always 1 to 8.
+            currentLine += char16_t(u'0' + fontSize);
+            currentLine += u'"';
         }
-        currentLine += QLatin1Char('>');
+        currentLine += u'>';
     }
-    currentLine += pendingText;
+    if (pendingText.size() == 1)
+        currentLine += pendingText.front().unicode();
+    else
+        put(currentLine, pendingText);
     ++p;
     fontChanged = false;
     emitPending = false;
@@ -177,26 +184,25 @@ void RtfHtmlScanner::emitStep() {
 void RtfHtmlScanner::plainSteps() {
     if (fontSet()) {
         if (!fontChanged)
-            currentLine += QLatin1String("</FONT>");
+            currentLine += u"</FONT>";
         fontColour.clear();
         fontFace = {};
     }
     if (inTable) {
-        currentLine += QLatin1String("</TD></TR></TABLE><BR>");
-        currentLine += lineBreak;
+        currentLine += u"</TD></TR></TABLE><BR>";
+        put(currentLine, lineBreak);
         inTable = false;
     }
     flushClosingTags(currentLine);
 }
 
-void RtfHtmlScanner::openTag(QLatin1String tag, Closing closing) {
-    currentLine += tag;
+void RtfHtmlScanner::openTag(QStringView tag, Closing closing) {
+    put(currentLine, tag);
     closingTags.push_back(closing);
 }
 
-void RtfHtmlScanner::flushClosingTags(QString& into) {
-    static const QLatin1String kClose[] = {QLatin1String("</B>"), QLatin1String("</I>"),
-                                           QLatin1String("</STRIKE>"), QLatin1String("</U>")};
+void RtfHtmlScanner::flushClosingTags(Buffer& into) {
+    static constexpr std::u16string_view kClose[] = {u"</B>", u"</I>", u"</STRIKE>", u"</U>"};
     for (auto it = closingTags.rbegin(); it != closingTags.rend(); ++it)
         into += kClose[*it];
     closingTags.clear();
@@ -211,8 +217,19 @@ void RtfHtmlScanner::setPending(QStringView text) {
     pendingText = text;
 }
 
+qsizetype RtfHtmlScanner::findSectionEnd(qsizetype from) const {
+    if (from < 1 || from > rtf.size())
+        return 0;
+    const std::u16string_view text(reinterpret_cast<const char16_t*>(rtf.text().utf16()),
+                                   std::size_t(rtf.size()));
+    const std::size_t at = text.find(kSectionEnd, std::size_t(from - 1));
+    return at == std::u16string_view::npos ? 0 : qsizetype(at) + 1;
+}
+
 QString RtfHtmlScanner::lastStage() {
-    flushClosingTags(html);
+    currentLine.clear();
+    flushClosingTags(currentLine);
+    html += QStringView(currentLine.data(), qsizetype(currentLine.size()));
     // An open alignment table stays open.
     if (fontSet())
         html += QLatin1String("</FONT>");

@@ -6,6 +6,7 @@
 #include <QString>
 #include <QStringList>
 #include <QStringView>
+#include <string>
 #include <vector>
 
 namespace qs {
@@ -40,8 +41,15 @@ private:
     QString lastStage();
 
     enum Closing { CloseB, CloseI, CloseStrike, CloseU };
-    void openTag(QLatin1String tag, Closing closing);
-    void flushClosingTags(QString& into);
+    void openTag(QStringView tag, Closing closing);
+    // The output grows a character at a time, so it is built in a plain buffer.
+    using Buffer = std::u16string;
+    static void put(Buffer& into, QStringView text) {
+        into.append(reinterpret_cast<const char16_t*>(text.utf16()), std::size_t(text.size()));
+    }
+    void flushClosingTags(Buffer& into);
+    // The "\r\n\par" at or behind `from`, 0 if there is none.
+    qsizetype findSectionEnd(qsizetype from) const;
     void setPending(QChar c);
     void setPending(QStringView text);
     bool fontSet() const { return !fontFace.isEmpty() || !fontColour.isEmpty(); }
@@ -56,7 +64,7 @@ private:
     std::vector<signed char> fontSameAsFirst;
 
     QString html;
-    QString currentLine;
+    Buffer currentLine;
     // Innermost last; written innermost first.
     std::vector<Closing> closingTags;
     QStringView fontFace;
@@ -80,7 +88,6 @@ private:
     qsizetype p = 0;
     qsizetype sectionStart = 0;
     qsizetype sectionEnd = 0;
-    RtfFinder sectionEnds;
     RtfFinder braces;
     // How far currentLine is known to be nothing but "&nbsp;", and whether something else stood
     // there: the line only grows, so a blank never reads it from the start again.

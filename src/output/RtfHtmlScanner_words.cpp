@@ -31,9 +31,9 @@ void RtfHtmlScanner::controlWord() {
     case 'i':
         if (next == ' ' || next == '\\') {
             if (c == 'b')
-                openTag(QLatin1String("<B>"), CloseB);
+                openTag(u"<B>", CloseB);
             else
-                openTag(QLatin1String("<I>"), CloseI);
+                openTag(u"<I>", CloseI);
             advance = next == ' ' ? 1 : 0;
         } else if (c == 'b' && rtf.startsAt(p, QLatin1String("bullet "))) {
             setPending(QChar(0x2022));
@@ -110,7 +110,7 @@ void RtfHtmlScanner::controlWord() {
     case 's':
         if (rtf.startsAt(p, QLatin1String("strike\\")) ||
             rtf.startsAt(p, QLatin1String("strike "))) {
-            openTag(QLatin1String("<STRIKE>"), CloseStrike);
+            openTag(u"<STRIKE>", CloseStrike);
             advance = 6;
         } else {
             skip = true;
@@ -127,7 +127,7 @@ void RtfHtmlScanner::controlWord() {
         break;
     case 'u':
         if (rtf.startsAt(p, QLatin1String("ul ")) || rtf.startsAt(p, QLatin1String("ul\\"))) {
-            openTag(QLatin1String("<U>"), CloseU);
+            openTag(u"<U>", CloseU);
             advance = 1;
         } else {
             skip = true;
@@ -150,7 +150,7 @@ void RtfHtmlScanner::controlWord() {
         break;
     case '\n':
     case '\r':
-        currentLine += QLatin1String("\r\n");
+        currentLine += u"\r\n";
         break;
     default:
         skip = true;
@@ -224,7 +224,7 @@ qsizetype RtfHtmlScanner::paragraphWord() {
     }
     if (rtf.startsAt(p, QLatin1String("pard\\plain"))) {
         flushClosingTags(currentLine);
-        currentLine += paragraphEndTag;
+        put(currentLine, paragraphEndTag);
         paragraphEndTag.clear();
         lineStartTag.clear();
         lineEndTag = QStringLiteral("<BR>") + lineBreak;
