@@ -68,6 +68,10 @@ TEST(RTF2HTML, ConvertsTheCharactersAndControlWordsOfALine) {
          "</FONT>"},
         {"\\fs30 x\\cf1 y", "", "x<FONT COLOR=\"#FF0000\" SIZE = \"4\">y</FONT>"},
         {"\\f1 x\\plain y\\f1\\plain z", "", kFontCourier + "x</FONT>yz"},
+        // \plain keeps the size.
+        {"\\f1\\fs30 x\\plain\\cf1 y", "",
+         "<FONT FACE=\"Courier New\" SIZE = \"4\">x</FONT><FONT COLOR=\"#FF0000\" SIZE = "
+         "\"4\">y</FONT>"},
         // Alignment waits for a font change; a blank behind \qc or \qr takes a character.
         {"\\qc\\f1 x\\plain y", "",
          kTableOpen + "<TR ALIGN=\"center\"><TD>" + kFontCourier +
@@ -78,6 +82,7 @@ TEST(RTF2HTML, ConvertsTheCharactersAndControlWordsOfALine) {
         {"\\qr xy\\f1 z", "",
          "y" + kTableOpen + "<TR ALIGN=\"right\"><TD>" + kFontCourier + "z</FONT>"},
         {"\\qc xy", "", "y"},
+        {"\\qr\\f1 z", "", kTableOpen + "<TR ALIGN=\"right\"><TD>" + kFontCourier + "z</FONT>"},
         {"x{\\pntext\\f1\\'b7\\tab}y{\\pntxtb\\'b7}z", "", "xyz"},
     };
     for (const Row& row : rows) {
