@@ -20,5 +20,8 @@ void FigureStoredFile(const BenchContext& context, int megabytes);
 // A module of about 1 MB split into its members by cCodeParser, beside a plain split of the same
 // text into lines.
 void FigureParseModule(const BenchContext& context);
+// About `megabytes` MB of the code pane's rich text converted to HTML, beside a plain scan that
+// drops the control words of the same text.
+void FigureRtfToHtml(const BenchContext& context, int megabytes);
 
 } // namespace qs::bench

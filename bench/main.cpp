@@ -5,6 +5,7 @@
 // --reuse  keep an existing file at --db instead of building it again
 // --runs   timed runs of each operation; the median is printed (default 7)
 // --stored-mb  size of the stored file added and written back (default 200; 0 leaves it out)
+// --rtf-mb  size of the rich text converted to HTML (default 1; 0 leaves it out)
 #include "Bench.h"
 #include "Figures.h"
 #include "PlainScan.h"
@@ -25,6 +26,7 @@ int main(int argc, char* argv[]) {
     context.items = 100000;
     bool reuse = false;
     int storedMb = 200;
+    int rtfMb = 1;
     const QStringList args = app.arguments();
     for (int i = 1; i < args.size(); ++i) {
         const QString& arg = args.at(i);
@@ -37,12 +39,14 @@ int main(int argc, char* argv[]) {
             context.runs = qMax(1, args.at(++i).toInt());
         } else if (arg == QLatin1String("--stored-mb") && hasValue) {
             storedMb = qMax(0, args.at(++i).toInt());
+        } else if (arg == QLatin1String("--rtf-mb") && hasValue) {
+            rtfMb = qMax(0, args.at(++i).toInt());
         } else if (arg == QLatin1String("--reuse")) {
             reuse = true;
         } else {
             std::fprintf(
-                stderr,
-                "usage: bench [--items N] [--db path] [--reuse] [--runs R] [--stored-mb M]\n");
+                stderr, "usage: bench [--items N] [--db path] [--reuse] [--runs R] [--stored-mb M] "
+                        "[--rtf-mb M]\n");
             return 2;
         }
     }
@@ -87,6 +91,8 @@ int main(int argc, char* argv[]) {
         FigureBackup(context);
         FigureCompact(context);
         FigureParseModule(context);
+        if (rtfMb > 0)
+            FigureRtfToHtml(context, rtfMb);
         if (storedMb > 0)
             FigureStoredFile(context, storedMb);
     } catch (const qs::QsError& e) {
