@@ -2,6 +2,7 @@
 #include "DataServiceFixture.h"
 #include "ExportWriters.h"
 
+#include <QDir>
 #include <QFile>
 #include <QProcess>
 #include <QRegularExpression>
@@ -173,6 +174,16 @@ TEST_F(Export, WithoutAppendAnyExistingFileIsReplaced) {
     WriteFile(path, "not xml at all");
     rec.ExportXml(path, false, false);
     ASSERT_EQ(parseExport(path).size(), 1);
+}
+
+TEST_F(Export, XmlToAnEmptyPathWritesNothingAndRaisesNothing) {
+    // The XML command looks at the path only after the call.
+    const cSourceCode rec = item(QStringLiteral("Nowhere"), QStringLiteral("a"), 1);
+    const QDir here = QDir::current();
+    const QStringList before = here.entryList(QDir::Files);
+    EXPECT_NO_THROW(rec.ExportXml(QString(), false, true));
+    EXPECT_NO_THROW(rec.ExportXml(QString(), true, false));
+    EXPECT_EQ(here.entryList(QDir::Files), before);
 }
 
 TEST_F(Export, TextIsWindows1252WithCrLfLineEnds) {

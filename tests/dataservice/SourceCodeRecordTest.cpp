@@ -173,6 +173,23 @@ TEST_F(SourceCodeRecord, FolderThatHoldsItemsCannotBeDeleted) {
     EXPECT_TRUE(cLibraryService(dbPath).GetSourceCode(folder).IsFolder());
 }
 
+TEST_F(SourceCodeRecord, SaveWritesOnlyTheFieldsItWasGiven) {
+    const int id = addCode(QStringLiteral("Shared"));
+    cSourceCode mine = cLibraryService(dbPath).GetSourceCode(id);
+    cSourceCode theirs = cLibraryService(dbPath).GetSourceCode(id);
+    theirs.BeginEdit(0);
+    theirs.Notes(QStringLiteral("Their notes"));
+    theirs.Save();
+    mine.BeginEdit(0);
+    mine.Description(QStringLiteral("Renamed"));
+    mine.Save();
+
+    const cSourceCode back = cLibraryService(dbPath).GetSourceCode(id);
+    EXPECT_EQ(back.Description(), QStringLiteral("Renamed"));
+    EXPECT_EQ(back.Notes(), QStringLiteral("Their notes"));
+    EXPECT_EQ(back.Code(), QStringLiteral("code of Shared"));
+}
+
 TEST_F(SourceCodeRecord, UpdateOfARowAnotherUserDeletedRaisesNotFound) {
     const int id = addCode(QStringLiteral("Shared"));
     cSourceCode mine = cLibraryService(dbPath).GetSourceCode(id);
