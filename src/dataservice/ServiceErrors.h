@@ -25,8 +25,10 @@ inline constexpr long kErrNotAuthorized = vbObjectError + 516;
 // "Required paramaters are missing from the function call."  An id, a table name or a required
 // field is missing or out of range.
 inline constexpr long kErrMissingParameters = vbObjectError + 517;
-// "The record does not exist in the database."  GetSourceCode, GetSourceFile or a Save of a
-// record whose row is gone (another user deleted it meanwhile).
+// "The record does not exist in the database."  GetSourceCode or GetSourceFile of an unknown id,
+// UpdateCategory of an unknown category, SaveToDisk of a stored file that is gone, and a Save
+// (item, author or user) whose row is gone (another user deleted it meanwhile).  A caller that
+// shows its own message for a missing record tests for this number.
 inline constexpr long kErrRecordNotFound = vbObjectError + 518;
 // "The record is still in use: ..."  A category with items, an author credited with items, a
 // folder with children, or the category "Visual Basic", which cannot be deleted.
