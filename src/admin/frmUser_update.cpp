@@ -20,6 +20,26 @@
 
 namespace qs {
 
+namespace {
+
+// The logged-in user saved his own record: the session follows it, a new id included, and so
+// does the id the login remembers.
+void FollowOwnRecord(const cUser& saved, const QString& oldId) {
+    *gobjCurrentUser = saved;
+    gstrUserId = saved.UserId();
+    gstrFirstName = saved.FirstName();
+    gstrLastName = saved.LastName();
+    gstrUserName = gstrFirstName + QLatin1Char(' ') + gstrLastName;
+    const QString settings = SettingsFilePath();
+    const QString section = QString::fromLatin1(INI_SECTION_APPSETTINGS);
+    const QString key = QString::fromLatin1(INI_KEY_USERID);
+    if (gstrUserId != oldId && FileExists(settings) &&
+        File_GetSpecificKeySetting_FromSpecificFile(settings, section, key) == oldId)
+        File_WriteSpecificKeyNameAndSetting_ToSpecificFile(section, key, gstrUserId, settings);
+}
+
+} // namespace
+
 void frmUser::cmdUserUpdate_Click() {
     try {
         if (mintMode != ModeAdd && mintMode != ModeEdit)
@@ -81,6 +101,9 @@ void frmUser::cmdUserUpdate_Click() {
         if (mintMode == ModeAdd)
             mobjUser = std::make_shared<cUser>();
         if (mobjUser) {
+            const QString oldId = mobjUser->UserId();
+            const bool ownRecord =
+                mintMode == ModeEdit && gobjCurrentUser && oldId == gobjCurrentUser->UserId();
             mobjUser->BeginEdit(0);
             if (mintMode == ModeEdit)
                 mobjUser->NewUserId(id);
@@ -94,6 +117,8 @@ void frmUser::cmdUserUpdate_Click() {
             mobjUser->Question(txtQuestion->text());
             mobjUser->Answer(txtAnswer->text());
             mobjUser->Save(actingUserId(), 0);
+            if (ownRecord)
+                FollowOwnRecord(*mobjUser, oldId);
         }
 
         if (gblnFirstUser) {

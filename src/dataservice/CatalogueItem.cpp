@@ -7,8 +7,44 @@ namespace qs {
 
 void CatalogueItem::checkSave(int typeId, const QString& source) const {
     checkEditing(source);
-    if (!mDeleted && (mCategoryId == 0 || typeId == 0 || (mId != 0 && mParentId == mId)))
+    if (!mDeleted && (mCategoryId == 0 || typeId == 0))
         RaiseServiceError(kErrMissingParameters, source);
+}
+
+void CatalogueItem::checkParent(SqliteStore& store, const QString& table,
+                                const QString& source) const {
+    // A row keeps its place unless this Save moves it or changes its category.
+    if (mParentId == 0 || (mId != 0 && !isSet(kParentId) && !isSet(kCategoryId)))
+        return;
+    QSqlQuery parent =
+        store.run(QStringLiteral("SELECT IsFolder, CategoryId FROM %1 WHERE Id = ?").arg(table),
+                  {mParentId}, source);
+    const bool found = parent.next();
+    const bool folder = found && parent.value(0).toInt() != 0;
+    const int category = found ? parent.value(1).toInt() : 0;
+    parent.finish();
+    if (!folder)
+        RaiseServiceError(kErrInvalidParent, source,
+                          QStringLiteral("%1 holds no folder %2.").arg(table).arg(mParentId));
+    if (category != mCategoryId)
+        RaiseServiceError(kErrInvalidParent, source,
+                          QStringLiteral("folder %1 belongs to another category.").arg(mParentId));
+    if (mId == 0)
+        return;
+    // The new parent's chain of ancestors must not pass through the record; UNION stops at a
+    // loop that is stored already.
+    const bool inside =
+        store
+            .scalar(QStringLiteral("WITH RECURSIVE up(Id) AS (SELECT ? UNION SELECT t.ParentId "
+                                   "FROM %1 t JOIN up ON t.Id = up.Id WHERE t.ParentId <> 0) "
+                                   "SELECT EXISTS (SELECT 1 FROM up WHERE Id = ?)")
+                        .arg(table),
+                    {mParentId, mId}, source)
+            .toBool();
+    if (inside)
+        RaiseServiceError(
+            kErrInvalidParent, source,
+            QStringLiteral("folder %1 lies inside the item %2 itself.").arg(mParentId).arg(mId));
 }
 
 int CatalogueItem::saveDeletion(SqliteStore& store, SqliteStore::Transaction& transaction,
@@ -34,23 +70,38 @@ QDateTime CatalogueItem::enteredForSave() const {
     return mDateEntered.isValid() ? mDateEntered : QDateTime::currentDateTime();
 }
 
-int CatalogueItem::writeRow(SqliteStore& store, const QString& table, const QStringList& columns,
-                            const QVariantList& values, const QString& source) const {
+CatalogueItem::StoredColumn CatalogueItem::enteredColumn(const QDateTime& entered) const {
+    return {"DateEntered", StoredDate(entered), isSet(kDateEntered) || !mDateEntered.isValid()};
+}
+
+int CatalogueItem::writeRow(SqliteStore& store, const QString& table,
+                            const QVector<StoredColumn>& columns, const QString& source) const {
+    QStringList names;
+    QVariantList values;
+    for (const StoredColumn& column : columns) {
+        if (mId != 0 && !column.set)
+            continue;
+        names << QLatin1String(column.name);
+        values << column.value;
+    }
     if (mId == 0) {
         QStringList marks;
-        for (qsizetype i = 0; i < columns.size(); ++i)
+        for (qsizetype i = 0; i < names.size(); ++i)
             marks.append(QStringLiteral("?"));
         QSqlQuery insert = store.run(
             QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)")
-                .arg(table, columns.join(QStringLiteral(", ")), marks.join(QStringLiteral(", "))),
+                .arg(table, names.join(QStringLiteral(", ")), marks.join(QStringLiteral(", "))),
             values, source);
         return insert.lastInsertId().toInt();
     }
-    QVariantList binds = values;
-    binds.append(mId);
-    QSqlQuery update = store.run(QStringLiteral("UPDATE %1 SET %2 = ? WHERE Id = ?")
-                                     .arg(table, columns.join(QStringLiteral(" = ?, "))),
-                                 binds, source);
+    // With nothing set the row is still touched, so that one that is gone is noticed.
+    QStringList sets{QStringLiteral("Id = Id")};
+    for (const QString& name : names)
+        sets << name + QStringLiteral(" = ?");
+    values.append(mId);
+    QSqlQuery update = store.run(
+        QStringLiteral("UPDATE %1 SET %2 WHERE Id = ?").arg(table, sets.join(QStringLiteral(", "))),
+        values, source);
     if (update.numRowsAffected() == 0)
         RaiseServiceError(kErrRecordNotFound, source);
     return mId;

@@ -13,6 +13,7 @@
 #include <QPainter>
 #include <QPdfWriter>
 #include <QSaveFile>
+#include <QTextBoundaryFinder>
 #include <QXmlStreamReader>
 #include <QXmlStreamWriter>
 
@@ -41,28 +42,42 @@ void writeWhole(const QString& path, const QByteArray& bytes, const QString& sou
 
 // --- PDF -----------------------------------------------------------------------------------
 
-QString expandTabs(const QString& line) {
-    QString out;
-    for (QChar c : line) {
-        if (c == QLatin1Char('\t'))
-            out.append(QString(kTabWidth - out.size() % kTabWidth, QLatin1Char(' ')));
-        else
-            out.append(c);
+// The line as the page shows it, one cell per column: grapheme clusters, so that a wrap never
+// falls inside a surrogate pair, between a letter and its accent or within a joined emoji, and
+// tabs as blanks up to the next tab stop.
+QStringList cells(const QString& line) {
+    QStringList out;
+    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, line);
+    qsizetype from = 0;
+    while (finder.toNextBoundary() != -1) {
+        const qsizetype at = finder.position();
+        const QString cluster = line.mid(from, at - from);
+        from = at;
+        if (cluster == QLatin1String("\t")) {
+            for (qsizetype n = kTabWidth - out.size() % kTabWidth; n > 0; --n)
+                out.append(QStringLiteral(" "));
+        } else {
+            out.append(cluster);
+        }
     }
     return out;
 }
 
-QStringList wrapLines(const QString& text, int columns) {
+} // namespace
+
+QStringList WrapPdfLines(const QString& text, int columns) {
     QStringList out;
     for (const QString& raw : splitLines(text)) {
-        const QString line = expandTabs(raw);
+        const QStringList line = cells(raw);
         if (line.isEmpty())
             out.append(QString());
-        for (int at = 0; at < line.size(); at += columns)
-            out.append(line.mid(at, columns));
+        for (qsizetype at = 0; at < line.size(); at += columns)
+            out.append(line.mid(at, columns).join(QString()));
     }
     return out;
 }
+
+namespace {
 
 // --- XML -----------------------------------------------------------------------------------
 
@@ -174,7 +189,7 @@ void WritePdfExport(const QString& path, const QString& text, const QString& tit
         const int columns =
             qMax(20, int(std::floor(width / fm.horizontalAdvance(QLatin1Char('M')))));
         const int perPage = qMax(5, int(std::floor(height / lineHeight)) - 2);
-        const QStringList lines = wrapLines(text, columns);
+        const QStringList lines = WrapPdfLines(text, columns);
         const int pages = qMax(1, int((lines.size() + perPage - 1) / perPage));
         for (int page = 0; page < pages; ++page) {
             if (page > 0)

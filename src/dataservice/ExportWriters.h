@@ -18,6 +18,10 @@ void WriteTextExport(const QString& path, const QString& text, const QString& so
 void WritePdfExport(const QString& path, const QString& text, const QString& title,
                     const QString& source);
 
+// The lines of the PDF: every line end breaks, tabs stop every four columns, and a line longer
+// than columns is wrapped between two characters (grapheme clusters), one character a column.
+QStringList WrapPdfLines(const QString& text, int columns);
+
 // One item of an XML export: its id and its fields in order, element name and text, and the
 // revision lines, each a list of fields of its own.
 struct XmlExportItem {

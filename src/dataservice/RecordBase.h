@@ -11,6 +11,10 @@ namespace qs {
 // connection: it stays usable after the service object that handed it out is gone, and each
 // Save opens its own connection.  A record made by its default constructor belongs to the
 // database the settings name at the moment it is made.
+//
+// A Save that updates a stored row writes only the fields set since the record was read or last
+// saved: a field the caller did not set keeps what is stored, whatever the record holds for it
+// (an empty marker record, or a copy older than another program's change).
 class RecordBase {
 public:
     void BeginEdit(int flag = 0);
@@ -29,11 +33,16 @@ protected:
     void endEdit() {
         mEditing = false;
         mDeleted = false;
+        mSetFields = 0;
     }
+    // Field bits are each record's own; a setter marks its field.
+    void markSet(quint32 field) { mSetFields |= field; }
+    bool isSet(quint32 field) const { return (mSetFields & field) != 0; }
 
     QString mDatabasePath;
     bool mEditing = false;
     bool mDeleted = false;
+    quint32 mSetFields = 0;
 };
 
 } // namespace qs

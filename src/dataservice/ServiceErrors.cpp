@@ -26,6 +26,9 @@ void RaiseServiceError(long number, const QString& source, const QString& detail
     case kErrRecordInUse:
         text = QString::fromLatin1(kTextRecordInUse) + detail;
         break;
+    case kErrInvalidParent:
+        text = QString::fromLatin1(kTextInvalidParent) + detail;
+        break;
     case kErrDuplicateUser:
         text = QString::fromLatin1(kTextDuplicateUser);
         break;

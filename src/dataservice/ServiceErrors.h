@@ -25,8 +25,10 @@ inline constexpr long kErrNotAuthorized = vbObjectError + 516;
 // "Required paramaters are missing from the function call."  An id, a table name or a required
 // field is missing or out of range.
 inline constexpr long kErrMissingParameters = vbObjectError + 517;
-// "The record does not exist in the database."  GetSourceCode, GetSourceFile or a Save of a
-// record whose row is gone (another user deleted it meanwhile).
+// "The record does not exist in the database."  GetSourceCode or GetSourceFile of an unknown id,
+// UpdateCategory of an unknown category, SaveToDisk of a stored file that is gone, and a Save
+// (item, author or user) whose row is gone (another user deleted it meanwhile).  A caller that
+// shows its own message for a missing record tests for this number.
 inline constexpr long kErrRecordNotFound = vbObjectError + 518;
 // "The record is still in use: ..."  A category with items, an author credited with items, a
 // folder with children, or the category "Visual Basic", which cannot be deleted.
@@ -36,6 +38,10 @@ inline constexpr long kErrDuplicateUser = vbObjectError + 520;
 // The storage engine refused (disk full, locked past the busy timeout, ...): the description is
 // the engine's own text.  The operation left the database as it was.
 inline constexpr long kErrStorage = vbObjectError + 521;
+// "The parent folder is not valid: ..."  A Save whose ParentId names no folder of the same table
+// and category, or a folder inside the item's own subtree (a folder moved under itself).  The
+// description's tail says which; nothing is written.
+inline constexpr long kErrInvalidParent = vbObjectError + 522;
 
 inline constexpr const char kTextDatabaseNotFound[] =
     "The Quillstone Database does not exist in the specified path.";
@@ -47,9 +53,10 @@ inline constexpr const char kTextMissingParameters[] =
 inline constexpr const char kTextRecordNotFound[] = "The record does not exist in the database.";
 inline constexpr const char kTextRecordInUse[] = "The record is still in use: ";
 inline constexpr const char kTextDuplicateUser[] = "The UserId already exists in the database.";
+inline constexpr const char kTextInvalidParent[] = "The parent folder is not valid: ";
 
-// Raises the error of that number with its fixed text (kErrStorage and kErrRecordInUse take
-// the detail as their description's tail).
+// Raises the error of that number with its fixed text (kErrStorage, kErrRecordInUse and
+// kErrInvalidParent take the detail as their description's tail).
 [[noreturn]] void RaiseServiceError(long number, const QString& source,
                                     const QString& detail = QString());
 

@@ -2,6 +2,7 @@
 
 #include "LibrarySchema.h"
 #include "ServiceErrors.h"
+#include "Utf16Text.h"
 
 #include <QAtomicInteger>
 #include <QDateTime>
@@ -195,12 +196,19 @@ QSqlQuery SqliteStore::prepare(const QString& sql, const QString& source) {
 
 void SqliteStore::exec(QSqlQuery& query, const QString& source) {
     // A null QString is text that was never set: it is stored as empty text, not as NULL.
-    // A NULL is asked for with a typed null QVariant (StoredDate, OptionalId).
+    // A NULL is asked for with a typed null QVariant (StoredDate, OptionalId).  Text goes to the
+    // engine well-formed: SQLite's UTF-16 to UTF-8 step takes the unit after a lone surrogate
+    // with it, so each one is stored as U+FFFD instead.
     const QVariantList bound = query.boundValues();
     for (int i = 0; i < bound.size(); ++i) {
         const QVariant& value = bound.at(i);
-        if (!value.isNull() && value.typeId() == QMetaType::QString && value.toString().isNull())
+        if (value.isNull() || value.typeId() != QMetaType::QString)
+            continue;
+        const QString text = value.toString();
+        if (text.isNull())
             query.bindValue(i, QStringLiteral(""));
+        else if (!IsWellFormedUtf16(text))
+            query.bindValue(i, WellFormedUtf16(text));
     }
     if (query.exec())
         return;

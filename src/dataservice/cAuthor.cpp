@@ -32,9 +32,20 @@ void cAuthor::Save() {
                        {mFirstName, mLastName}, source);
         id = insert.lastInsertId().toInt();
     } else {
-        QSqlQuery update = store->run(
-            QStringLiteral("UPDATE Authors SET FirstName = ?, LastName = ? WHERE AuthorId = ?"),
-            {mFirstName, mLastName, id}, source);
+        QStringList sets{QStringLiteral("AuthorId = AuthorId")};
+        QVariantList binds;
+        if (isSet(kFirstName)) {
+            sets << QStringLiteral("FirstName = ?");
+            binds << mFirstName;
+        }
+        if (isSet(kLastName)) {
+            sets << QStringLiteral("LastName = ?");
+            binds << mLastName;
+        }
+        binds << id;
+        QSqlQuery update = store->run(QStringLiteral("UPDATE Authors SET %1 WHERE AuthorId = ?")
+                                          .arg(sets.join(QStringLiteral(", "))),
+                                      binds, source);
         if (update.numRowsAffected() == 0)
             RaiseServiceError(kErrRecordNotFound, source);
     }

@@ -13,18 +13,23 @@ int cSourceCode::Save() {
     if (mDeleted)
         return saveDeletion(*store, transaction, table, source);
 
+    checkParent(*store, table, source);
     const int tested = mTested == 0 ? 2 : mTested;
     const QDateTime entered = enteredForSave();
-    const int id = writeRow(
-        *store, table,
-        {QStringLiteral("ParentId"), QStringLiteral("CategoryId"), QStringLiteral("CodeTypeId"),
-         QStringLiteral("Tested"), QStringLiteral("AuthorId"), QStringLiteral("IsFolder"),
-         QStringLiteral("Description"), QStringLiteral("DateWritten"),
-         QStringLiteral("DateEntered"), QStringLiteral("Notes"), QStringLiteral("Example"),
-         QStringLiteral("Code")},
-        {mParentId, mCategoryId, mCodeTypeId, tested, OptionalId(mAuthorId), mIsFolder ? 1 : 0,
-         mDescription, StoredDate(mDateWritten), StoredDate(entered), mNotes, mExample, mCode},
-        source);
+    const int id = writeRow(*store, table,
+                            {{"ParentId", mParentId, isSet(kParentId)},
+                             {"CategoryId", mCategoryId, isSet(kCategoryId)},
+                             {"CodeTypeId", mCodeTypeId, isSet(kCodeTypeId)},
+                             {"Tested", tested, isSet(kTested)},
+                             {"AuthorId", OptionalId(mAuthorId), isSet(kAuthorId)},
+                             {"IsFolder", mIsFolder ? 1 : 0, isSet(kIsFolder)},
+                             {"Description", mDescription, isSet(kDescription)},
+                             {"DateWritten", StoredDate(mDateWritten), isSet(kDateWritten)},
+                             enteredColumn(entered),
+                             {"Notes", mNotes, isSet(kNotes)},
+                             {"Example", mExample, isSet(kExample)},
+                             {"Code", mCode, isSet(kCode)}},
+                            source);
     finishSave(*store, transaction, id, entered, QStringLiteral("RevHist_SrcCode"),
                QStringLiteral("SourceCodeId"), source);
     mTested = tested;

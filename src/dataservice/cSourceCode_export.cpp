@@ -15,6 +15,9 @@ QString dateText(const QDateTime& value) {
 } // namespace
 
 void cSourceCode::ExportXml(const QString& strFile, bool blnAppend, bool blnIncludeHistory) const {
+    // A cancelled save dialog gives no path; the caller tells the user so after the call.
+    if (strFile.isEmpty())
+        return;
     XmlExportItem item;
     item.id = mId;
     item.fields = {

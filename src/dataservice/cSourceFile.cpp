@@ -13,43 +13,36 @@ int cSourceFile::Save() {
     if (mDeleted)
         return saveDeletion(*store, transaction, table, source);
 
+    checkParent(*store, table, source);
     const QDateTime entered = enteredForSave();
-    const int id =
-        writeRow(*store, table, {QStringLiteral("ParentId"),    QStringLiteral("CategoryId"),
-                                 QStringLiteral("FileTypeId"),  QStringLiteral("AuthorId"),
-                                 QStringLiteral("IsFolder"),    QStringLiteral("Description"),
-                                 QStringLiteral("DateEntered"), QStringLiteral("Notes"),
-                                 QStringLiteral("FileName"),    QStringLiteral("FullPath"),
-                                 QStringLiteral("DosName"),     QStringLiteral("FileTypeName"),
-                                 QStringLiteral("Size"),        QStringLiteral("DateCreated"),
-                                 QStringLiteral("ReadOnly"),    QStringLiteral("Hidden"),
-                                 QStringLiteral("System"),      QStringLiteral("Archive"),
-                                 QStringLiteral("Temporary"),   QStringLiteral("Compressed"),
-                                 QStringLiteral("Icon"),        QStringLiteral("VersionInfo")},
-                 {mParentId,
-                  mCategoryId,
-                  mFileTypeId,
-                  OptionalId(mAuthorId),
-                  mIsFolder ? 1 : 0,
-                  mDescription,
-                  StoredDate(entered),
-                  mNotes,
-                  mFacts.FileName,
-                  mFacts.FullPath,
-                  mFacts.DosName,
-                  mFacts.FileTypeName,
-                  mFacts.Size,
-                  StoredDate(mFacts.DateCreated),
-                  mFacts.ReadOnly ? 1 : 0,
-                  mFacts.Hidden ? 1 : 0,
-                  mFacts.System ? 1 : 0,
-                  mFacts.Archive ? 1 : 0,
-                  mFacts.Temporary ? 1 : 0,
-                  mFacts.Compressed ? 1 : 0,
-                  mFacts.IconPng.isEmpty() ? QVariant(QMetaType(QMetaType::QByteArray))
-                                           : QVariant(mFacts.IconPng),
-                  mFacts.VersionInfoJson},
-                 source);
+    const bool file = bool(mContentWriter);
+    const int id = writeRow(*store, table,
+                            {{"ParentId", mParentId, isSet(kParentId)},
+                             {"CategoryId", mCategoryId, isSet(kCategoryId)},
+                             {"FileTypeId", mFileTypeId, isSet(kFileTypeId)},
+                             {"AuthorId", OptionalId(mAuthorId), isSet(kAuthorId)},
+                             {"IsFolder", mIsFolder ? 1 : 0, isSet(kIsFolder)},
+                             {"Description", mDescription, isSet(kDescription)},
+                             enteredColumn(entered),
+                             {"Notes", mNotes, isSet(kNotes)},
+                             {"FileName", mFacts.FileName, file},
+                             {"FullPath", mFacts.FullPath, file},
+                             {"DosName", mFacts.DosName, file},
+                             {"FileTypeName", mFacts.FileTypeName, file},
+                             {"Size", mFacts.Size, file},
+                             {"DateCreated", StoredDate(mFacts.DateCreated), file},
+                             {"ReadOnly", mFacts.ReadOnly ? 1 : 0, file},
+                             {"Hidden", mFacts.Hidden ? 1 : 0, file},
+                             {"System", mFacts.System ? 1 : 0, file},
+                             {"Archive", mFacts.Archive ? 1 : 0, file},
+                             {"Temporary", mFacts.Temporary ? 1 : 0, file},
+                             {"Compressed", mFacts.Compressed ? 1 : 0, file},
+                             {"Icon",
+                              mFacts.IconPng.isEmpty() ? QVariant(QMetaType(QMetaType::QByteArray))
+                                                       : QVariant(mFacts.IconPng),
+                              file},
+                             {"VersionInfo", mFacts.VersionInfoJson, file}},
+                            source);
     // The bytes go in with the row, inside the same transaction.
     if (mContentWriter)
         mContentWriter(*store, id);

@@ -18,6 +18,10 @@ class cFileInfo;
 // loaded, and the revision lines added since the record was read, in one transaction.
 // - a new record needs CategoryId and FileTypeId (101 or 102) of existing rows, else
 //   kErrMissingParameters; AuthorId 0 means no author; DateEntered is the time of the first Save.
+// - ParentId is 0 or the id of a folder of SourceFile in the same category, never one inside
+//   the item itself; anything else raises kErrInvalidParent and writes nothing.
+// - an update writes only the fields set since the record was read (RecordBase); the file's
+//   facts count as set when LoadFile or UpdateFile read a file.
 // - with Deleted set the row goes with its bytes, its revision lines and every user's bookmark
 //   of it; a folder that still holds items is refused with kErrRecordInUse.
 // - an update of a row that is gone raises kErrRecordNotFound and writes nothing.
@@ -48,7 +52,10 @@ public:
     // The stored file's extension; the dialogs pick their filters by it.
     const QString& FileTypeName() const { return mFacts.FileTypeName; }
     int FileTypeId() const { return mFileTypeId; }
-    void FileTypeId(int value) { mFileTypeId = value; }
+    void FileTypeId(int value) {
+        mFileTypeId = value;
+        markSet(kFileTypeId);
+    }
     // Reads the file at strPath, its facts and bytes, into this new record; Save stores them.
     void LoadFile(const QString& strPath, int lngAuthorId, int lngCategoryId, int lngFileTypeId);
     // Reads the file at strPath over the stored one; Save stores it.
@@ -64,6 +71,7 @@ public:
 
 private:
     friend class cLibraryService;
+    enum : quint32 { kFileTypeId = kFirstOwnField };
 
     bool mReplaceFile = false;
     int mFileTypeId = 0;

@@ -76,9 +76,9 @@ cFileInfo cSourceFile::File() const {
 void cSourceFile::LoadFile(const QString& strPath, int lngAuthorId, int lngCategoryId,
                            int lngFileTypeId) {
     readFileInto(strPath, mFacts, mContentWriter, QStringLiteral("cSourceFile:LoadFile;"));
-    mAuthorId = lngAuthorId;
-    mCategoryId = lngCategoryId;
-    mFileTypeId = lngFileTypeId;
+    AuthorId(lngAuthorId);
+    CategoryId(lngCategoryId);
+    FileTypeId(lngFileTypeId);
 }
 
 void cSourceFile::UpdateFile(const QString& strPath) {

@@ -23,8 +23,9 @@ void cUser::Save(const QString& actingUserId, int) {
                   .toLongLong();
     }
 
-    // Who acts: the first user needs no one; otherwise an administrator, or the user himself.
-    short level = mAccessLevel;
+    // Who acts: the first user needs no one; otherwise an administrator, or the user himself,
+    // whose own level then stays as stored.
+    bool ownRecord = false;
     const bool anyUser =
         store->scalar(QStringLiteral("SELECT EXISTS (SELECT 1 FROM Users)"), {}, source).toBool();
     if (anyUser) {
@@ -40,8 +41,7 @@ void cUser::Save(const QString& actingUserId, int) {
         acting.finish();
         if (actingKey == 0 || (actingLevel != 1 && actingKey != key))
             RaiseServiceError(kErrNotAuthorized, source);
-        if (actingKey == key)
-            level = static_cast<short>(actingLevel);
+        ownRecord = actingKey == key;
     }
 
     if (mDeleted) {
@@ -54,30 +54,59 @@ void cUser::Save(const QString& actingUserId, int) {
         return;
     }
 
+    if (target.isEmpty() || target == QLatin1String(kNoSuchUser))
+        RaiseServiceError(kErrMissingParameters, source);
     if (key == 0) {
         QSqlQuery insert = store->run(
             QStringLiteral("INSERT INTO Users (UserId, Password, FirstName, LastName, "
                            "AccessLevel, Question, Answer) VALUES (?, ?, ?, ?, ?, ?, ?)"),
-            {target, mPassword, mFirstName, mLastName, int(level), mQuestion, mAnswer}, source);
+            {target, mPassword, mFirstName, mLastName, int(mAccessLevel), mQuestion, mAnswer},
+            source);
         key = insert.lastInsertId().toLongLong();
     } else {
-        if (target.isEmpty() || target == QLatin1String(kNoSuchUser))
-            RaiseServiceError(kErrMissingParameters, source);
-        QSqlQuery update = store->run(
-            QStringLiteral("UPDATE Users SET UserId = ?, Password = ?, FirstName = ?, "
-                           "LastName = ?, AccessLevel = ?, Question = ?, Answer = ? "
-                           "WHERE UserKey = ?"),
-            {target, mPassword, mFirstName, mLastName, int(level), mQuestion, mAnswer, key},
-            source);
+        QStringList sets{QStringLiteral("UserId = ?")};
+        QVariantList binds{target};
+        const auto setIf = [&](quint32 field, const char* column, const QVariant& value) {
+            if (!isSet(field))
+                return;
+            sets << QStringLiteral("%1 = ?").arg(QLatin1String(column));
+            binds << value;
+        };
+        setIf(kPassword, "Password", mPassword);
+        setIf(kFirstName, "FirstName", mFirstName);
+        setIf(kLastName, "LastName", mLastName);
+        if (!ownRecord)
+            setIf(kAccessLevel, "AccessLevel", int(mAccessLevel));
+        setIf(kQuestion, "Question", mQuestion);
+        setIf(kAnswer, "Answer", mAnswer);
+        binds << key;
+        QSqlQuery update = store->run(QStringLiteral("UPDATE Users SET %1 WHERE UserKey = ?")
+                                          .arg(sets.join(QStringLiteral(", "))),
+                                      binds, source);
         if (update.numRowsAffected() == 0)
             RaiseServiceError(kErrRecordNotFound, source);
     }
+    readRow(*store, key, source);
     transaction.commit();
-    mUserKey = key;
-    mUserId = target;
-    mAccessLevel = level;
     mNewUserId.clear();
     endEdit();
+}
+
+void cUser::readRow(SqliteStore& store, qint64 key, const QString& source) {
+    QSqlQuery row = store.run(QStringLiteral("SELECT UserId, Password, FirstName, LastName, "
+                                             "AccessLevel, Question, Answer FROM Users WHERE "
+                                             "UserKey = ?"),
+                              {key}, source);
+    if (!row.next())
+        RaiseServiceError(kErrRecordNotFound, source);
+    mUserKey = key;
+    mUserId = row.value(0).toString();
+    mPassword = row.value(1).toString();
+    mFirstName = row.value(2).toString();
+    mLastName = row.value(3).toString();
+    mAccessLevel = static_cast<short>(row.value(4).toInt());
+    mQuestion = row.value(5).toString();
+    mAnswer = row.value(6).toString();
 }
 
 } // namespace qs

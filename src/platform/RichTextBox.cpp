@@ -1,6 +1,6 @@
 #include "RichTextBox.h"
 
-#include "AnsiCodePage.h"
+#include "Cp1252.h"
 #include "LineEnds.h"
 #include "OleColor.h"
 #include "QsError.h"
@@ -153,7 +153,7 @@ void RichTextBox::SaveFile(const QString& path, int format) const {
     if (path.isEmpty() || !file.open(QIODevice::WriteOnly | QIODevice::Truncate))
         throw QsError(kErrPathFileAccess, QString::fromLatin1(kAppSource),
                       QStringLiteral("Path/File access error"));
-    const QByteArray bytes = format == rtfText ? ToAnsi(Text()) : TextRTF().toLatin1();
+    const QByteArray bytes = format == rtfText ? ToCp1252(Text()) : TextRTF().toLatin1();
     if (file.write(bytes) != bytes.size())
         throw QsError(kErrPathFileAccess, QString::fromLatin1(kAppSource),
                       QStringLiteral("Path/File access error"));

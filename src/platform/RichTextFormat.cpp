@@ -1,6 +1,6 @@
 #include "RichTextFormat.h"
 
-#include "AnsiCodePage.h"
+#include "Cp1252.h"
 
 #include <QColor>
 #include <QSet>
@@ -61,7 +61,8 @@ void appendEscaped(QString& out, const QString& text) {
         } else if (u == 0xFFFC) {
             // An embedded object has no text.
         } else {
-            const int code = AnsiCode(c);
+            // A half of a surrogate pair has no byte: RTF spells the pair as two \u units.
+            const int code = c.isSurrogate() ? -1 : Cp1252Byte(u);
             if (code >= 0)
                 out += hexByte(code);
             else
@@ -241,7 +242,7 @@ private:
                 bool ok = false;
                 const int code = mRtf.mid(i + 1, 2).toInt(&ok, 16);
                 if (ok)
-                    literal(FromAnsi(QByteArray(1, static_cast<char>(code))).at(0), true);
+                    literal(FromCp1252(QByteArray(1, static_cast<char>(code))).at(0), true);
                 return i + 3;
             }
             mPendingSkip = 0;

@@ -7,8 +7,12 @@
 #include "cSecurityService.h"
 #include "cUser.h"
 #include "frmUser.h"
+#include "mINIReadWrite.h"
+#include "quillstone_private.h"
 
 #include <QApplication>
+#include <QDir>
+#include <QFileInfo>
 #include <QLineEdit>
 #include <QPushButton>
 
@@ -336,6 +340,49 @@ TEST_F(UserMaintenance, DeleteAnsweredYesRemovesTheUserFromStoreAndList) {
     EXPECT_EQ(hostScript.msgBoxes().size(), 1) << hostScript.log().toStdString();
     EXPECT_EQ(storedUser(QStringLiteral("bob")).UserId(), QStringLiteral("Q70707"));
     EXPECT_EQ(entries(*form.cboUsers), QStringList({QStringLiteral("Ada Byron  (ada)")}));
+}
+
+TEST_F(UserMaintenance, RenamingOnesOwnIdKeepsTheSessionWorking) {
+    const QString settings = SettingsFilePath();
+    const QString section = QStringLiteral("AppSettings");
+    QDir().mkpath(QFileInfo(settings).absolutePath());
+    ASSERT_TRUE(File_WriteSpecificKeyNameAndSetting_ToSpecificFile(
+        section, QStringLiteral("UserId"), QStringLiteral("ada"), settings));
+    frmUser& form = Forms::get<frmUser>();
+    form.cmdUserEdit->click();
+    form.txtUserId->setText(QStringLiteral("adele"));
+    form.txtUserFName->setText(QStringLiteral("Adele"));
+    form.cmdUserUpdate->click();
+
+    EXPECT_TRUE(hostScript.msgBoxes().isEmpty()) << hostScript.log().toStdString();
+    EXPECT_EQ(gstrUserId, QStringLiteral("adele"));
+    EXPECT_EQ(gstrUserName, QStringLiteral("Adele Byron"));
+    ASSERT_TRUE(gobjCurrentUser);
+    EXPECT_EQ(gobjCurrentUser->UserId(), QStringLiteral("adele"));
+    EXPECT_EQ(gintAccessLevel, 1);
+    EXPECT_EQ(
+        File_GetSpecificKeySetting_FromSpecificFile(settings, section, QStringLiteral("UserId")),
+        QStringLiteral("adele"));
+
+    // The next save acts as the renamed administrator.
+    form.cboUsers->setListIndex(1);
+    ASSERT_EQ(form.txtUserId->text(), QStringLiteral("bob"));
+    form.cmdUserEdit->click();
+    form.txtUserLName->setText(QStringLiteral("Mason"));
+    form.cmdUserUpdate->click();
+    EXPECT_TRUE(hostScript.msgBoxes().isEmpty()) << hostScript.log().toStdString();
+    EXPECT_EQ(storedUser(QStringLiteral("bob")).LastName(), QStringLiteral("Mason"));
+
+    // And so does a bookmark.
+    cSourceCode item;
+    item.BeginEdit(0);
+    item.CategoryId(1);
+    item.CodeTypeId(201);
+    item.Description(QStringLiteral("Marked"));
+    const int id = item.Save();
+    cLibraryService library;
+    library.AddBookmark(QStringLiteral("BkMark_SrcCode"), id, gstrUserId);
+    EXPECT_EQ(library.GetBookmarks(QStringLiteral("BkMark_SrcCode"), gstrUserId).UBound(), 1);
 }
 
 TEST_F(UserMaintenance, ExitWithUsersClosesTheWindowWithoutAQuestion) {

@@ -2,6 +2,7 @@
 
 #include "FormBase.h"
 #include "Globals.h"
+#include "cSecurityService.h"
 #include "cUser.h"
 #include "frmLogin.h"
 #include "frmMain.h"
@@ -185,6 +186,26 @@ TEST_F(Login, GoodLoginFillsTheGlobalsShowsTheMainWindowAndUnloads) {
     ASSERT_NE(main, nullptr);
     EXPECT_TRUE(main->isVisible());
     EXPECT_EQ(Forms::find<frmLogin>(), nullptr);
+}
+
+TEST_F(Login, FirstLoginWithAWrongPasswordStillLetsTheAdministratorBackIn) {
+    // As the first-user window leaves things.
+    gblnFirstUser = true;
+    gstrUserId = QStringLiteral("ada");
+    gstrFirstName = QStringLiteral("Ada");
+    gstrLastName = QStringLiteral("Byron");
+    form().Show();
+    type(QStringLiteral("ada"), QStringLiteral("typo"));
+    form().cmdOk->click();
+
+    // The first login is not stopped by the marker, and writes nothing away.
+    ASSERT_NE(Forms::find<frmMain>(), nullptr);
+    EXPECT_EQ(gstrUserId, QStringLiteral("ada"));
+    EXPECT_TRUE(canLogIn(QStringLiteral("ada"), QStringLiteral("secret")));
+    const cUser stored = cSecurityService().GetUser(QStringLiteral("ada"), QString(), "ada");
+    EXPECT_EQ(stored.Question(), QStringLiteral("First pet"));
+    EXPECT_EQ(stored.Answer(), QStringLiteral("Rex"));
+    EXPECT_EQ(stored.AccessLevel(), 1);
 }
 
 TEST_F(Login, UnknownLevelStillLogsInAsUnauthorized) {

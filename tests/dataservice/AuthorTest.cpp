@@ -30,6 +30,23 @@ TEST_F(Authors, SaveRenameAndListInNameOrder) {
     EXPECT_EQ(rows(2).LastName, QStringLiteral("Turing"));
 }
 
+TEST_F(Authors, SaveWritesOnlyTheNameItWasGiven) {
+    const int id = addAuthor(QStringLiteral("Alan"), QStringLiteral("Turing"));
+    cLibraryService library(dbPath);
+    cAuthor mine = *library.GetAuthor(id);
+    cAuthor theirs = *library.GetAuthor(id);
+    theirs.BeginEdit(0);
+    theirs.LastName(QStringLiteral("Mathison"));
+    theirs.Save();
+    mine.BeginEdit(0);
+    mine.FirstName(QStringLiteral("A."));
+    mine.Save();
+
+    const cAuthor back = *library.GetAuthor(id);
+    EXPECT_EQ(back.FirstName(), QStringLiteral("A."));
+    EXPECT_EQ(back.LastName(), QStringLiteral("Mathison"));
+}
+
 TEST_F(Authors, CreditedAuthorIsNotDeleted) {
     const int author = addAuthor(QStringLiteral("Busy"), QStringLiteral("Writer"));
     addCode(QStringLiteral("Work"), 1, 201, 1, 0, false, author);

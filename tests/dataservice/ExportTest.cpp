@@ -1,7 +1,7 @@
-#include "Cp1252.h"
 #include "DataServiceFixture.h"
 #include "ExportWriters.h"
 
+#include <QDir>
 #include <QFile>
 #include <QProcess>
 #include <QRegularExpression>
@@ -175,6 +175,16 @@ TEST_F(Export, WithoutAppendAnyExistingFileIsReplaced) {
     ASSERT_EQ(parseExport(path).size(), 1);
 }
 
+TEST_F(Export, XmlToAnEmptyPathWritesNothingAndRaisesNothing) {
+    // The XML command looks at the path only after the call.
+    const cSourceCode rec = item(QStringLiteral("Nowhere"), QStringLiteral("a"), 1);
+    const QDir here = QDir::current();
+    const QStringList before = here.entryList(QDir::Files);
+    EXPECT_NO_THROW(rec.ExportXml(QString(), false, true));
+    EXPECT_NO_THROW(rec.ExportXml(QString(), true, false));
+    EXPECT_EQ(here.entryList(QDir::Files), before);
+}
+
 TEST_F(Export, TextIsWindows1252WithCrLfLineEnds) {
     const cSourceCode rec = item(QStringLiteral("Text"), QStringLiteral("a"), 0);
     const QString path = home->file("out.txt");
@@ -189,19 +199,6 @@ TEST_F(Export, TextToAFolderThatIsNotThereRaises) {
     const cSourceCode rec = item(QStringLiteral("Text"), QStringLiteral("a"), 0);
     const QsError e = Raised([&] { rec.ExportText(home->file("no/such/dir/x.txt"), "a"); });
     EXPECT_EQ(e.source(), "cSourceCode:ExportText;");
-}
-
-TEST(Cp1252, EveryByteComesBackThroughTheCodePage) {
-    QByteArray all;
-    for (int b = 0; b < 256; ++b)
-        all.append(char(b));
-    const QString text = FromCp1252(all);
-    EXPECT_EQ(text.at(0x80), QChar(0x20AC));
-    EXPECT_EQ(text.at(0x9F), QChar(0x0178));
-    EXPECT_EQ(text.at(0x81), QChar(0x0081));
-    EXPECT_EQ(text.at(0xFF), QChar(0x00FF));
-    EXPECT_EQ(ToCp1252(text), all);
-    EXPECT_EQ(ToCp1252(QString(QChar(0x0100))), "?");
 }
 
 TEST_F(Export, PdfTextComesBackPaginatedWithPageNumbers) {
@@ -247,4 +244,34 @@ TEST_F(Export, PdfOfEmptyTextIsOneNumberedPage) {
     const QString path = home->file("empty.pdf");
     rec.ExportPdf(path, QString());
     EXPECT_EQ(pdfText(pdftotext, {path}).trimmed(), "Page 1 of 1");
+}
+
+TEST(PdfLines, WrapFallsBetweenCharactersNeverInsideOne) {
+    const QString x90(90, QLatin1Char('x'));
+    const QString emoji = QString::fromUtf8("\xf0\x9f\x98\x80");
+    const QString accented = QStringLiteral("e") + QChar(0x0301);
+    const QString family = QString::fromUtf8("\xf0\x9f\x91\xa9\xe2\x80\x8d\xf0\x9f\x91\xa7");
+    const struct {
+        QString text;
+        int columns;
+        QStringList lines;
+    } cases[] = {
+        {QStringLiteral("abcdefghij"), 4, {"abcd", "efgh", "ij"}},
+        {x90 + emoji, 91, {x90 + emoji}},
+        {x90 + emoji + QStringLiteral("y"), 90, {x90, emoji + QStringLiteral("y")}},
+        {QStringLiteral("abc") + emoji + QStringLiteral("de"),
+         4,
+         {QStringLiteral("abc") + emoji, QStringLiteral("de")}},
+        {QStringLiteral("abc") + accented + QStringLiteral("fg"),
+         4,
+         {QStringLiteral("abc") + accented, QStringLiteral("fg")}},
+        {QStringLiteral("ab") + family + QStringLiteral("cde"),
+         3,
+         {QStringLiteral("ab") + family, QStringLiteral("cde")}},
+        {emoji + QStringLiteral("\tz"), 8, {emoji + QStringLiteral("   z")}},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.text.toStdString());
+        EXPECT_EQ(WrapPdfLines(c.text, c.columns), c.lines);
+    }
 }

@@ -78,6 +78,28 @@ TEST_F(Security, FirstUserIsMadeFromTheMarkerRecord) {
     EXPECT_EQ(stored.Question(), QStringLiteral("Q"));
 }
 
+TEST_F(Security, MarkerRecordSavedOverAStoredUserKeepsWhatItDidNotSet) {
+    addUser(QStringLiteral("ann"), QStringLiteral("Secret"));
+    cUser marker =
+        cSecurityService(dbPath).GetUser(QStringLiteral("ann"), QStringLiteral("typo"), "");
+    marker.BeginEdit(0);
+    marker.AccessLevel(1);
+    marker.UserId(QStringLiteral("ann"));
+    marker.FirstName(QStringLiteral("Ann"));
+    marker.LastName(QStringLiteral("Lee"));
+    marker.Save(QStringLiteral("ann"), 0);
+
+    const cUser stored =
+        cSecurityService(dbPath).GetUser(QStringLiteral("ann"), QStringLiteral("Secret"), "");
+    EXPECT_EQ(stored.UserId(), QStringLiteral("ann"));
+    EXPECT_EQ(stored.FirstName(), QStringLiteral("Ann"));
+    EXPECT_EQ(stored.Question(), QStringLiteral("Pet?"));
+    EXPECT_EQ(stored.Answer(), QStringLiteral("Rex"));
+    // The record now stands for the row it was written to.
+    EXPECT_TRUE(marker.IsStored());
+    EXPECT_EQ(marker.Question(), QStringLiteral("Pet?"));
+}
+
 TEST_F(Security, MarkerIdItselfCannotBeSaved) {
     cUser user = cSecurityService(dbPath).GetUser(QStringLiteral("x"), QStringLiteral("y"), "");
     user.BeginEdit(0);

@@ -173,6 +173,48 @@ TEST_F(SourceCodeRecord, FolderThatHoldsItemsCannotBeDeleted) {
     EXPECT_TRUE(cLibraryService(dbPath).GetSourceCode(folder).IsFolder());
 }
 
+TEST_F(SourceCodeRecord, SaveWritesOnlyTheFieldsItWasGiven) {
+    const int id = addCode(QStringLiteral("Shared"));
+    cSourceCode mine = cLibraryService(dbPath).GetSourceCode(id);
+    cSourceCode theirs = cLibraryService(dbPath).GetSourceCode(id);
+    theirs.BeginEdit(0);
+    theirs.Notes(QStringLiteral("Their notes"));
+    theirs.Save();
+    mine.BeginEdit(0);
+    mine.Description(QStringLiteral("Renamed"));
+    mine.Save();
+
+    const cSourceCode back = cLibraryService(dbPath).GetSourceCode(id);
+    EXPECT_EQ(back.Description(), QStringLiteral("Renamed"));
+    EXPECT_EQ(back.Notes(), QStringLiteral("Their notes"));
+    EXPECT_EQ(back.Code(), QStringLiteral("code of Shared"));
+}
+
+TEST_F(SourceCodeRecord, MalformedTextComesBackAsReplacementWithItsNeighbours) {
+    const QChar high(0xD83D), low(0xDE00), bad(0xFFFD);
+    const QString emoji = QString(high) + low;
+    const struct {
+        QString stored;
+        QString back;
+    } cases[] = {
+        {QStringLiteral("a") + high + QStringLiteral("bc"), QStringLiteral("a") + bad + "bc"},
+        {QStringLiteral("a") + low + QStringLiteral("bc"), QStringLiteral("a") + bad + "bc"},
+        {QStringLiteral("ab") + high, QStringLiteral("ab") + bad},
+        {QString(low) + high + emoji + "z", QString(bad) + bad + emoji + "z"},
+        {QString(high) + high + low, QString(bad) + emoji},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.back.toStdString());
+        cSourceCode item = newCode();
+        item.Description(c.stored);
+        item.Code(c.stored);
+        const int id = item.Save();
+        const cSourceCode back = cLibraryService(dbPath).GetSourceCode(id);
+        EXPECT_EQ(back.Description(), c.back);
+        EXPECT_EQ(back.Code(), c.back);
+    }
+}
+
 TEST_F(SourceCodeRecord, UpdateOfARowAnotherUserDeletedRaisesNotFound) {
     const int id = addCode(QStringLiteral("Shared"));
     cSourceCode mine = cLibraryService(dbPath).GetSourceCode(id);

@@ -1,5 +1,4 @@
 #include "RichTextBox.h"
-#include "AnsiCodePage.h"
 #include "LineEnds.h"
 #include "OleColor.h"
 #include "QsError.h"
@@ -206,6 +205,20 @@ TEST(RichTextBox, SaveFileWritesPlainTextInTheAnsiCodePageOrRichText) {
     EXPECT_EQ(QString::fromLatin1(r.readAll()), box.TextRTF());
 }
 
+TEST(RichTextBox, SaveFileAsTextPutsOneQuestionMarkForACharacterTheCodePageLacks) {
+    // As the text export does: one mark per character, an emoji included.
+    test::TestHome home;
+    RichTextBox box("r");
+    box.setText(QString::fromUtf8("a\xf0\x9f\x98\x80"
+                                  "b\xe4\xb8\xad"
+                                  "c"));
+    const QString path = home.file("out.txt");
+    box.SaveFile(path, rtfText);
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_EQ(file.readAll(), QByteArray("a?b?c"));
+}
+
 TEST(RichTextBox, SaveFileToAnEmptyPathRaisesPathFileAccess) {
     RichTextBox box("r");
     box.setText("x");
@@ -229,16 +242,4 @@ TEST(LineEnds, EveryLineEndBecomesCrLfOrLf) {
     EXPECT_EQ(ToCrLf("a\nb\r\nc\rd"), "a\r\nb\r\nc\r\nd");
     EXPECT_EQ(ToLf("a\r\nb\rc\n"), "a\nb\nc\n");
     EXPECT_EQ(ToCrLf("\r\n\r\n"), "\r\n\r\n");
-}
-
-TEST(AnsiCodePage, MapsTheWindowsRangeAndReplacesTheRest) {
-    EXPECT_EQ(AnsiCode(QChar(0x20AC)), 0x80);
-    EXPECT_EQ(AnsiCode(QChar(0x2022)), 0x95);
-    EXPECT_EQ(AnsiCode(QChar(0xE9)), 0xE9);
-    EXPECT_EQ(AnsiCode(QChar(0x4E2D)), -1);
-    EXPECT_EQ(ToAnsi(QString(QChar(0x4E2D))), QByteArray("?"));
-    QByteArray all;
-    for (int b = 1; b < 256; ++b)
-        all += static_cast<char>(b);
-    EXPECT_EQ(ToAnsi(FromAnsi(all)), all);
 }
