@@ -1,6 +1,6 @@
 #include "RtfTables.h"
 
-#include "AnsiCodePage.h"
+#include "Cp1252.h"
 #include "RtfText.h"
 
 #include <array>
@@ -185,7 +185,7 @@ QChar AnsiCharacterOfHex(QStringView hex) {
             break;
         value = value * 16 + digit;
     }
-    return FromAnsi(QByteArray(1, static_cast<char>(value))).at(0);
+    return FromCp1252(QByteArray(1, static_cast<char>(value))).at(0);
 }
 
 } // namespace qs

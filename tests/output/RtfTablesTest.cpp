@@ -1,6 +1,6 @@
 #include "RtfFrame.h"
 
-#include "AnsiCodePage.h"
+#include "Cp1252.h"
 #include "RtfTables.h"
 #include "mRTFtoHTML.h"
 
@@ -21,7 +21,7 @@ TEST(RtfTables, CharacterTableHasItsRowsAndNoOthers) {
         const QString html = RTF2HTML(oneLine("\\'" + hex + "."), QString());
         ASSERT_TRUE(html.endsWith('.'));
         const QString text = html.chopped(1);
-        const QChar own = FromAnsi(QByteArray(1, char(code))).at(0);
+        const QChar own = FromCp1252(QByteArray(1, char(code))).at(0);
         const bool hasRow = code == 0 || code == 0x85 || (code >= 0xa1 && code != 0xae);
         rows += hasRow ? 1 : 0;
         if (code == 0)
