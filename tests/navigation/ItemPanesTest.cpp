@@ -369,10 +369,14 @@ TEST_F(ItemPanes, RecordAnotherUserDeletedLeavesEmptyPanesWithoutAReport) {
     }
     EXPECT_TRUE(hostScript.msgBoxes().isEmpty()) << hostScript.log().toStdString();
 
-    // Any other failure of the service is reported.
+    // Any other failure of the service is reported, and no earlier record stays behind.
+    const int id = add(false, {});
+    form.GetCodeSnippet(id);
+    ASSERT_TRUE(form.mobjSourceCode);
     pointAt(home->file(QStringLiteral("Elsewhere/Missing.mdb")));
     hostScript.expectMsgBox(QString::fromLatin1(kTextDatabaseNotFound));
-    form.GetCodeSnippet(1);
+    form.GetCodeSnippet(id);
+    EXPECT_FALSE(form.mobjSourceCode);
 }
 
 TEST_F(ItemPanes, FocusOnATabOrTheCodePaneTakesTheTreeCommandsAway) {
