@@ -62,6 +62,7 @@ template <class Record, class Fetch> std::shared_ptr<Record> FetchUnlessGone(con
 
 } // namespace
 
+// The columns of the two revision lists, then the events of the panes.
 void frmMain::connectPanes() {
     lvwRevHistSetup(lvwRevisionHistory);
     lvwRevHistSetup(lstSrcFileRevHist);
