@@ -57,6 +57,7 @@ frmMain::frmMain() : FormBase(QStringLiteral("frmMain")) {
     buildMenus();
     buildToolBar();
     connectMenus();
+    connectPanes();
 }
 
 frmMain::~frmMain() = default;

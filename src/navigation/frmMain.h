@@ -2,6 +2,8 @@
 
 #include "FormBase.h"
 
+#include <memory>
+
 class QAction;
 class QCheckBox;
 class QLabel;
@@ -14,15 +16,19 @@ class QRadioButton;
 namespace qs {
 
 class Button;
+class ColumnHeader;
 class ComboBox;
 class ListBox;
 class ListView;
+class Node;
 class RichTextBox;
 class SSTab;
 class StatusBar;
 class Timer;
 class Toolbar;
 class TreeView;
+class cSourceCode;
+class cSourceFile;
 
 // The main window: category tree, item tree, bookmarks and search on the left, the panes of the
 // selected item on the right, the menu bar and the tool bar.  Its members are defined in the
@@ -175,6 +181,37 @@ public:
     void ClearAllControls();
     void EnableControls(bool on);
 
+    // ---- Item panes: loading the selected item ----
+    // The code tabs for the item of tvwMain, tvwBookMarks or tvwSearchResults.
+    void GetCodeSnippet(long lngId);
+    void GetCodeSnippetBk(long lngId);
+    void GetCodeSnippetSrch(long lngId);
+    // True when a load should unfold the module of `node` into its outline: no outline click is
+    // loading it, the category is a Visual Basic one, the node has no children yet, and it stands
+    // for a class or module (tvwMain reads its key, the other two trees its image).
+    static bool ShouldParseModule(const Node& node, bool blnMainTree, bool blnChildClick,
+                                  bool blnVisualBasicCategory);
+    // The source file tabs for a stored file.
+    void SourceFileInfoArtOrComp(long lngId);
+    void LoadVerInfoCbo();
+    void lboxVerInfo_Click();
+    void SetPicIcon();
+    // The two columns of a revision list.
+    void lvwRevHistSetup(ListView* list);
+    void lvwRevisionHistory_Click();
+    void lvwRevisionHistory_ColumnClick(ColumnHeader& header);
+    void lstSrcFileRevHist_Click();
+    void lstSrcFileRevHist_ColumnClick(ColumnHeader& header);
+    // Rights while the focus leaves the trees.
+    void SSTabAboutCode_Click();
+    void SSTabAboutCode_GotFocus();
+    void SSTabNavigate_Click();
+    void SSTabNavigate_GotFocus();
+    void RichTextBoxCode_GotFocus();
+    void RichTextBoxCode_MouseDown(int button, int shift, int x, int y);
+    // Shows the sub-menu of `menu` at the pointer and returns when it closes.
+    void PopupMenu(QAction* menu);
+
     // ---- Window members ----
     int mintDragFormat = 0;         // clipboard format "Tarnwick" of the node drag
     QString mstrActiveTree;         // "Cats", "Main" or "BookMarks"
@@ -187,6 +224,14 @@ public:
     bool mblnFilling = false;
     bool mblnFindHit = false;   // a text search has hit something in RichTextBoxCode
     QString mstrDatabaseFolder; // folder of the database last chosen or made here
+    std::shared_ptr<cSourceCode> mobjSourceCode; // the last code item loaded; null for none
+    std::shared_ptr<cSourceFile> mobjSourceFile; // the last stored file loaded; null for none
+    QString mstrFileFullPath;                    // of the last stored file loaded
+    QString mstrFileName;
+    bool mblnSkipColumnToggle = false;    // True for one forced sort of a revision list
+    int mintSelectFirstRow = 0;           // 1 for one forced click on a revision list
+    bool mblnAboutCodeTabClicked = false; // SSTabAboutCode_Click has had its first run
+    bool mblnNavigateTabClicked = false;  // SSTabNavigate_Click has had its first run
 
 protected:
     void Form_Load() override;
@@ -199,6 +244,9 @@ private:
     void buildMenus();
     void buildToolBar();
     void connectMenus();
+    void connectPanes();
+    // The tab rights shared by the tab and code pane handlers.
+    void DisableModifyCommands();
     void clearSourceFileFields(bool withVerInfo);
     // Hides the commands that change anything from a user who is not an administrator.
     void ApplyAccessLevel();
