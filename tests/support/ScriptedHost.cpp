@@ -1,5 +1,6 @@
 #include "ScriptedHost.h"
 
+#include <QMenu>
 #include <QPointer>
 #include <gtest/gtest.h>
 
@@ -258,6 +259,10 @@ int ScriptedHost::shellExecute(const QString& verb, const QString& file, const Q
         text += QStringLiteral(" (in ") + folder + QStringLiteral(")");
     record(QStringLiteral("Shell"), verb, text, show).answer = QString::number(mShellResult);
     return mShellResult;
+}
+
+void ScriptedHost::popupMenu(QMenu& menu) {
+    record(QStringLiteral("PopupMenu"), QString(), menu.objectName(), 0);
 }
 
 bool ScriptedHost::showHelp(const QString& helpFile, int command, long context) {

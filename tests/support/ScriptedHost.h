@@ -14,9 +14,9 @@ namespace qs::test {
 
 // One call that reached the host, as the log shows it.
 struct HostCall {
-    QString kind;   // "MsgBox", "InputBox", "FileOpen", "FileSave", "Modal", "ClipboardClear",
-                    // "ClipboardSet", "ClipboardGet", "Shell", "Help", "PrinterDialog", "Print",
-                    // "Pointer", "PrevInstance", "End"
+    QString kind; // "MsgBox", "InputBox", "FileOpen", "FileSave", "Modal", "ClipboardClear",
+                  // "PopupMenu", "ClipboardSet", "ClipboardGet", "Shell", "Help", "PrinterDialog",
+                  // "Print", "Pointer", "PrevInstance", "End"
     QString title;  // title of a prompt, verb of a shell call, help file of a help call
     QString text;   // prompt text, form name, file, clipboard text, printed text
     int flags = 0;  // message box flags, help command, pointer value, shell show value
@@ -94,6 +94,8 @@ public:
                      const QString& defaultText) override;
     QString fileDialog(const FileDialogRequest& request) override;
     void showModal(FormBase& form) override;
+    // Records the pop-up by the menu's name; it closes with nothing chosen.
+    void popupMenu(QMenu& menu) override;
     void clipboardClear() override;
     void clipboardSetText(const QString& text) override;
     QString clipboardGetText() override;
