@@ -58,6 +58,7 @@ frmMain::frmMain() : FormBase(QStringLiteral("frmMain")) {
     buildToolBar();
     connectMenus();
     connectTrees();
+    connectPanes();
 }
 
 frmMain::~frmMain() = default;

@@ -6,6 +6,8 @@
 #include "Node.h"
 #include "VbArray.h"
 
+#include <memory>
+
 class QAction;
 class QCheckBox;
 class QKeyEvent;
@@ -19,15 +21,19 @@ class QRadioButton;
 namespace qs {
 
 class Button;
+class ColumnHeader;
 class ComboBox;
 class ListBox;
 class ListView;
+class Node;
 class RichTextBox;
 class SSTab;
 class StatusBar;
 class Timer;
 class Toolbar;
 class TreeView;
+class cSourceCode;
+class cSourceFile;
 
 // The main window: category tree, item tree, bookmarks and search on the left, the panes of the
 // selected item on the right, the menu bar and the tool bar.  Its members are defined in the
@@ -182,8 +188,6 @@ public:
     // ---- Keys of the window: F1 opens the help of the control that has the focus ----
     void Form_KeyDown(int& KeyCode, int Shift);
     void txtNotes_KeyDown(int& KeyCode, int Shift);
-    // Shows a menu as a pop-up at the pointer; an entry chosen there runs its command.
-    void PopupMenu(QAction* menu);
 
     // ---- Category tree ----
     void FillTreeViewCategory();
@@ -218,6 +222,37 @@ public:
     void ClearAllControls();
     void EnableControls(bool on);
 
+    // ---- Item panes: loading the selected item ----
+    // The code tabs for the item of tvwMain, tvwBookMarks or tvwSearchResults.
+    void GetCodeSnippet(long lngId);
+    void GetCodeSnippetBk(long lngId);
+    void GetCodeSnippetSrch(long lngId);
+    // True when a load should unfold the module of `node` into its outline: no outline click is
+    // loading it, the category is a Visual Basic one, the node has no children yet, and it stands
+    // for a class or module (tvwMain reads its key, the other two trees its image).
+    static bool ShouldParseModule(const Node& node, bool blnMainTree, bool blnChildClick,
+                                  bool blnVisualBasicCategory);
+    // The source file tabs for a stored file.
+    void SourceFileInfoArtOrComp(long lngId);
+    void LoadVerInfoCbo();
+    void lboxVerInfo_Click();
+    void SetPicIcon();
+    // The two columns of a revision list.
+    void lvwRevHistSetup(ListView* list);
+    void lvwRevisionHistory_Click();
+    void lvwRevisionHistory_ColumnClick(ColumnHeader& header);
+    void lstSrcFileRevHist_Click();
+    void lstSrcFileRevHist_ColumnClick(ColumnHeader& header);
+    // Rights while the focus leaves the trees.
+    void SSTabAboutCode_Click();
+    void SSTabAboutCode_GotFocus();
+    void SSTabNavigate_Click();
+    void SSTabNavigate_GotFocus();
+    void RichTextBoxCode_GotFocus();
+    void RichTextBoxCode_MouseDown(int button, int shift, int x, int y);
+    // Shows the sub-menu of `menu` at the pointer and returns when it closes.
+    void PopupMenu(QAction* menu);
+
     // ---- Window members ----
     int mintDragFormat = 0;         // clipboard format "Tarnwick" of the node drag
     QString mstrActiveTree;         // "Cats", "Main" or "BookMarks"
@@ -230,6 +265,14 @@ public:
     bool mblnFilling = false;
     bool mblnFindHit = false;   // a text search has hit something in RichTextBoxCode
     QString mstrDatabaseFolder; // folder of the database last chosen or made here
+    std::shared_ptr<cSourceCode> mobjSourceCode; // the last code item loaded; null for none
+    std::shared_ptr<cSourceFile> mobjSourceFile; // the last stored file loaded; null for none
+    QString mstrFileFullPath;                    // of the last stored file loaded
+    QString mstrFileName;
+    bool mblnSkipColumnToggle = false;    // True for one forced sort of a revision list
+    int mintSelectFirstRow = 0;           // 1 for one forced click on a revision list
+    bool mblnAboutCodeTabClicked = false; // SSTabAboutCode_Click has had its first run
+    bool mblnNavigateTabClicked = false;  // SSTabNavigate_Click has had its first run
 
     // The lookups behind the category tree, 1-based, and the key of each category in the order
     // of marrCategories.
@@ -261,6 +304,9 @@ private:
     void connectMenus();
     void connectTrees();
     void fitToScreen();
+    void connectPanes();
+    // The tab rights shared by the tab and code pane handlers.
+    void DisableModifyCommands();
     void clearSourceFileFields(bool withVerInfo);
     // Hides the commands that change anything from a user who is not an administrator.
     void ApplyAccessLevel();
@@ -284,6 +330,8 @@ private:
     // The rights of the item tree's node; `mouseDown` for the variant of a press.
     void setItemRights(const Node& node, bool mouseDown);
     void restoreAfterItemClick(const Node& node, const QString& panelText);
+    // The stored-file tabs for the file of that id, its revision list laid out afresh.
+    void loadSourceFilePanes(long lngId);
     void setSelectionType(const QString& key, bool codeOnly);
 };
 

@@ -6,6 +6,7 @@
 #include "Globals.h"
 #include "Host.h"
 #include "ImageList.h"
+#include "ListView.h"
 #include "NodeKeys.h"
 #include "OleColor.h"
 #include "RichTextBox.h"
@@ -200,6 +201,18 @@ void frmMain::restoreAfterItemClick(const Node& node, const QString& panelText) 
     lblCodeSnipDescr->update();
 }
 
+void frmMain::loadSourceFilePanes(long lngId) {
+    LoadVerInfoCbo();
+    host().setMousePointer(vbHourglass);
+    SetPicIcon();
+    ClearControlsSourceFileTab();
+    lstSrcFileRevHist->Clear();
+    if (lstSrcFileRevHist->ColumnHeaders.Count() == 2)
+        lstSrcFileRevHist->ColumnHeaders.Clear();
+    lvwRevHistSetup(lstSrcFileRevHist);
+    SourceFileInfoArtOrComp(lngId);
+}
+
 void frmMain::tvwMain_NodeClick(Node node) {
     try {
         host().setMousePointer(vbHourglass);
@@ -214,7 +227,8 @@ void frmMain::tvwMain_NodeClick(Node node) {
         const bool admin = mnuAdmin->isVisible();
 
         if (selected && IsModuleMember(selected.Key())) {
-            // A member of a module outline: nothing may be changed or bookmarked there.
+            // A member of a module outline: nothing may be changed or bookmarked there.  Loading
+            // its module and showing the member come with the outline, which sets mblnChildClick.
             if (admin) {
                 mnuModify->setEnabled(false);
                 mnuBookMark->setEnabled(false);
@@ -260,6 +274,12 @@ void frmMain::tvwMain_NodeClick(Node node) {
             return;
         }
         lblCodeSnipDescr->setText(node.Text());
+        if (glngSelectedId != 0) {
+            if (IsSourceFileImage(node.Image()))
+                loadSourceFilePanes(glngSelectedId);
+            else
+                GetCodeSnippet(glngSelectedId);
+        }
         restoreAfterItemClick(node, panelText);
     } catch (...) {
         sbStatusBar->Panels(1).setText(QStringLiteral("Did Not Load Successfully !"));

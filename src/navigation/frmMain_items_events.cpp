@@ -97,6 +97,10 @@ void frmMain::tvwMain_MouseDown(int Button, int Shift, int x, int y) {
             if (current.Key() != kRoot && IsItemImage(current.Image())) {
                 const bool code = current.Key().contains(QLatin1String("SC"), Qt::CaseInsensitive);
                 showItemTabs(!code);
+                if (code)
+                    GetCodeSnippet(IdOf(current.Key()));
+                else
+                    loadSourceFilePanes(IdOf(current.Key()));
             }
         }
         host().setMousePointer(vbDefault);

@@ -121,10 +121,6 @@ void frmMain::mnuHelpOnHelp_Click() {
     }
 }
 
-void frmMain::PopupMenu(QAction* menu) {
-    host().popupMenu(*menu->menu());
-}
-
 void frmMain::stepInTree(bool forward) {
     const bool cats = mstrActiveTree == QLatin1String("Cats");
     TreeView& tree = cats ? *tvwCategories : *tvwMain;

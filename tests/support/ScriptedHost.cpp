@@ -262,7 +262,11 @@ int ScriptedHost::shellExecute(const QString& verb, const QString& file, const Q
 }
 
 void ScriptedHost::popupMenu(QMenu& menu) {
-    record(QStringLiteral("PopupMenu"), QString(), menu.objectName(), 0);
+    QStringList shown;
+    for (const QAction* entry : menu.actions())
+        if (entry->isVisible())
+            shown << entry->objectName();
+    record(QStringLiteral("PopupMenu"), shown.join(QLatin1Char(',')), menu.objectName(), 0);
 }
 
 bool ScriptedHost::showHelp(const QString& helpFile, int command, long context) {
