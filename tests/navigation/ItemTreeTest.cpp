@@ -188,6 +188,13 @@ TEST_F(ItemTree, KeysReachTheirEntriesButDeleteNotOnTheRootNorInsertOnAnItem) {
     EXPECT_EQ(form.lblCodeSnipDescr->text(), "Helpers");
     press(tree, Qt::Key_Left);
     EXPECT_EQ(tree.Nodes("SC1CodeTestedFolder").Image(), "ClosedFolder");
+
+    form.Unload();
+    frmMain& reader = openSnippets(QStringLiteral("User"));
+    QSignalSpy readerFolders(reader.mnuAddFolder, &QAction::triggered);
+    click(*reader.tvwMain, "ROOT");
+    press(*reader.tvwMain, Qt::Key_Insert);
+    EXPECT_EQ(readerFolders.count(), 0);
 }
 
 TEST_F(ItemTree, AStoredFileShowsInTheFileTabsWithTheTwoRevisionColumns) {
