@@ -21,7 +21,6 @@
 #include "mListView.h"
 
 #include <QAction>
-#include <QCursor>
 #include <QLineEdit>
 #include <QLocale>
 #include <QMenu>
@@ -376,8 +375,7 @@ void frmMain::RichTextBoxCode_MouseDown(int button, int shift, int x, int y) {
 }
 
 void frmMain::PopupMenu(QAction* menu) {
-    const Forms::YieldScope yielding;
-    menu->menu()->exec(QCursor::pos());
+    host().popupMenu(*menu->menu());
 }
 
 } // namespace qs
