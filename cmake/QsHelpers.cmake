@@ -62,11 +62,22 @@ function(qs_add_test_folder folder)
     target_link_libraries(${_exe} PRIVATE qs_testsupport ${ARGN})
     target_include_directories(${_exe} PRIVATE ${CMAKE_CURRENT_SOURCE_DIR}/${folder})
     qs_set_warnings(${_exe})
+    qs_test_environment(_env)
     gtest_discover_tests(${_exe}
         DISCOVERY_TIMEOUT 60
         PROPERTIES
             LABELS ${folder}
             TIMEOUT 300
-            ENVIRONMENT QT_QPA_PLATFORM=offscreen
+            ENVIRONMENT "${_env}"
         )
+endfunction()
+
+# The environment of every test: offscreen, and under the sanitizers a report halts the test.
+function(qs_test_environment out)
+    set(_env QT_QPA_PLATFORM=offscreen)
+    if(QS_SANITIZE)
+        list(APPEND _env UBSAN_OPTIONS=halt_on_error=1:print_stacktrace=1
+                         ASAN_OPTIONS=halt_on_error=1)
+    endif()
+    set(${out} "${_env}" PARENT_SCOPE)
 endfunction()
