@@ -1,11 +1,13 @@
 #include "quillstone_private.h"
 
 #include "AppPaths.h"
+#include "CloseLibraryFiles.h"
 #include "ComboBox.h"
 #include "FormBase.h"
 #include "Globals.h"
 #include "Host.h"
 #include "QsError.h"
+#include "QtHost.h"
 #include "cLibraryService.h"
 #include "cSecurityService.h"
 #include "frmDatabase.h"
@@ -101,8 +103,15 @@ QString SettingsFilePath() {
     return folder + name;
 }
 
+void CloseLibrary() {
+    gobjLibrary.reset();
+    CloseLibraryFiles();
+}
+
 void Main() {
     try {
+        QtHost::setBeforeEnd(CloseLibrary);
+
         if (host().previousInstance()) {
             host().msgBox(
                 QStringLiteral("There is an instance of this application already running."),

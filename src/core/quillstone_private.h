@@ -13,6 +13,11 @@ class frmMain;
 // login window is up; everything after that happens in event handlers.
 void Main();
 
+// The way out of the program: releases gobjLibrary and closes every connection to a library
+// file, so that the file alone holds every commit.  End runs it (Main hands it to the real host)
+// and the program runs it when its last window has gone.
+void CloseLibrary();
+
 // True when the database holds at least one user, and also after the database-missing dialog has
 // run.  False (after telling the user) when the database holds none; gblnFirstUser is then set.
 bool UsersExist();
