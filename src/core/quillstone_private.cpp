@@ -103,6 +103,13 @@ QString SettingsFilePath() {
     return folder + name;
 }
 
+void WriteInstallDefaults() {
+    // A read with a default writes the default when the value is missing, and only then.
+    GetRegSetting(QString::fromLatin1(REG_KEY_HELPFILES),
+                  QString::fromLatin1(REG_VAL_HELPFILES_FILEPATH),
+                  FormatPath(AppPath()) + QLatin1String(REG_DEF_HELPFILES_FOLDER));
+}
+
 void CloseLibrary() {
     gobjLibrary.reset();
     CloseLibraryFiles();
@@ -111,6 +118,7 @@ void CloseLibrary() {
 void Main() {
     try {
         QtHost::setBeforeEnd(CloseLibrary);
+        WriteInstallDefaults();
 
         if (host().previousInstance()) {
             host().msgBox(
