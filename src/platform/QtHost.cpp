@@ -425,8 +425,8 @@ void QtHost::endProcess() {
     mCursorPushed = false;
     std::fflush(stdout);
     std::fflush(stderr);
-    // Static destructors would run after Qt's own globals are gone; what must be put away has
-    // been by the hook above.
+    // Static destructors would run after Qt's own globals are gone; the hook above has already
+    // closed what must not be left open.
     std::_Exit(0);
 }
 
