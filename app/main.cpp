@@ -59,6 +59,8 @@ int main(int argc, char** argv) {
 
     qs::Forms::setOnEmpty(nullptr);
     qs::Forms::destroyAll();
+    // The last window has gone: the library file is left holding every commit, as End leaves it.
+    qs::CloseLibrary();
     qs::setHost(nullptr);
     return code;
 }

@@ -67,11 +67,23 @@ function(qs_add_test_folder folder)
     target_link_libraries(${_exe} PRIVATE qs_testsupport ${ARGN})
     target_include_directories(${_exe} PRIVATE ${CMAKE_CURRENT_SOURCE_DIR}/${folder})
     qs_set_warnings(${_exe})
-    gtest_discover_tests(${_exe}
-        DISCOVERY_TIMEOUT 60
-        PROPERTIES
-            LABELS ${folder}
-            TIMEOUT 300
-            ENVIRONMENT QT_QPA_PLATFORM=offscreen
-        )
+    qs_discover_tests(${_exe} ${folder})
+endfunction()
+
+# qs_discover_tests(target label): registers every GoogleTest case of the target with the label,
+# a time limit and the test environment: offscreen, and under the sanitizers a report halts the
+# test.  gtest_discover_tests splits a list given as a property value, so the environment is set
+# by a file of its own, read after the discovered cases.
+function(qs_discover_tests target label)
+    gtest_discover_tests(${target} DISCOVERY_TIMEOUT 60 PROPERTIES LABELS ${label} TIMEOUT 300)
+    set(_env QT_QPA_PLATFORM=offscreen)
+    if(QS_SANITIZE)
+        list(APPEND _env UBSAN_OPTIONS=halt_on_error=1:print_stacktrace=1
+                         ASAN_OPTIONS=halt_on_error=1)
+    endif()
+    set(_file ${CMAKE_CURRENT_BINARY_DIR}/${target}_environment.cmake)
+    file(WRITE ${_file} "if(${target}_TESTS)\n"
+                        "  set_tests_properties(\${${target}_TESTS} PROPERTIES ENVIRONMENT \"${_env}\")\n"
+                        "endif()\n")
+    set_property(DIRECTORY APPEND PROPERTY TEST_INCLUDE_FILES ${_file})
 endfunction()

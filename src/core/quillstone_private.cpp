@@ -1,11 +1,13 @@
 #include "quillstone_private.h"
 
 #include "AppPaths.h"
+#include "CloseLibraryFiles.h"
 #include "ComboBox.h"
 #include "FormBase.h"
 #include "Globals.h"
 #include "Host.h"
 #include "QsError.h"
+#include "QtHost.h"
 #include "cLibraryService.h"
 #include "cSecurityService.h"
 #include "frmDatabase.h"
@@ -101,8 +103,23 @@ QString SettingsFilePath() {
     return folder + name;
 }
 
+void WriteInstallDefaults() {
+    // A read with a default writes the default when the value is missing, and only then.
+    GetRegSetting(QString::fromLatin1(REG_KEY_HELPFILES),
+                  QString::fromLatin1(REG_VAL_HELPFILES_FILEPATH),
+                  FormatPath(AppPath()) + QLatin1String(REG_DEF_HELPFILES_FOLDER));
+}
+
+void CloseLibrary() {
+    gobjLibrary.reset();
+    CloseLibraryFiles();
+}
+
 void Main() {
     try {
+        QtHost::setBeforeEnd(CloseLibrary);
+        WriteInstallDefaults();
+
         if (host().previousInstance()) {
             host().msgBox(
                 QStringLiteral("There is an instance of this application already running."),

@@ -13,6 +13,16 @@ class frmMain;
 // login window is up; everything after that happens in event handlers.
 void Main();
 
+// What an installer writes before the first start: HelpFiles\FilePath, the per-user HelpFiles
+// folder that the shipped help pages are copied to.  A value already there, even an empty one,
+// is kept.  Main calls it first.
+void WriteInstallDefaults();
+
+// The way out of the program: releases gobjLibrary and closes every connection to a library
+// file, so that the file alone holds every commit.  End runs it (Main hands it to the real host)
+// and the program runs it when its last window has gone.
+void CloseLibrary();
+
 // True when the database holds at least one user, and also after the database-missing dialog has
 // run.  False (after telling the user) when the database holds none; gblnFirstUser is then set.
 bool UsersExist();

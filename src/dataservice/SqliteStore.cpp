@@ -9,6 +9,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QList>
 #include <QSqlError>
 
 namespace qs {
@@ -26,6 +27,13 @@ constexpr int kUserVersionOffset = 60;
 quint32 headerWord(const QByteArray& header, int offset) {
     const auto* p = reinterpret_cast<const uchar*>(header.constData()) + offset;
     return (quint32(p[0]) << 24) | (quint32(p[1]) << 16) | (quint32(p[2]) << 8) | quint32(p[3]);
+}
+
+// Every store alive in this process, for closeAll.  Never destroyed: a store held by a static
+// object goes after every other static is gone.
+QList<SqliteStore*>& liveStores() {
+    static auto* stores = new QList<SqliteStore*>();
+    return *stores;
 }
 
 QString nextConnectionName() {
@@ -48,9 +56,12 @@ bool SqliteStore::hasLibraryHeader(const QString& path) {
 }
 
 SqliteStore::SqliteStore(const QString& path, const QString& connectionName)
-    : mPath(path), mConnectionName(connectionName) {}
+    : mPath(path), mConnectionName(connectionName) {
+    liveStores().append(this);
+}
 
 SqliteStore::~SqliteStore() {
+    liveStores().removeOne(this);
     if (mDb.isValid()) {
         mDb.close();
         mDb = QSqlDatabase();
@@ -261,6 +272,18 @@ void SqliteStore::Transaction::commit() {
     if (!commit.exec(QStringLiteral("COMMIT")))
         mStore.raiseStorage(commit.lastError().text(), mSource);
     mOpen = false;
+}
+
+void SqliteStore::closeAll() {
+    for (SqliteStore* store : liveStores()) {
+        if (!store->mDb.isOpen())
+            continue;
+        {
+            QSqlQuery checkpoint(store->mDb);
+            checkpoint.exec(QStringLiteral("PRAGMA wal_checkpoint(TRUNCATE)"));
+        }
+        store->mDb.close();
+    }
 }
 
 void SqliteStore::setBeforeCommitHook(std::function<void()> hook) {

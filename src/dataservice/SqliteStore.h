@@ -66,6 +66,11 @@ public:
         bool mOpen = false;
     };
 
+    // Puts every commit of every open connection of this process into its main file (a WAL
+    // checkpoint) and closes the connection, so that each library file alone holds all that was
+    // saved.  For the way out of the program: a store used afterwards fails its next statement.
+    static void closeAll();
+
     // Test seam: called inside every write transaction just before COMMIT.  Tests use it to stop
     // a process in the middle of a save; nothing else sets it.
     static void setBeforeCommitHook(std::function<void()> hook);

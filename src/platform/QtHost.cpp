@@ -80,6 +80,11 @@ Qt::CursorShape cursorShape(int pointer) {
     }
 }
 
+std::function<void()>& beforeEnd() {
+    static std::function<void()> hook;
+    return hook;
+}
+
 bool looksLikeUrl(const QString& target) {
     static const QRegularExpression scheme(QStringLiteral("^[A-Za-z][A-Za-z0-9+.-]+:"));
     return scheme.match(target).hasMatch() && !QFileInfo::exists(target);
@@ -409,7 +414,17 @@ void QtHost::doEvents() {
     QCoreApplication::processEvents();
 }
 
+void QtHost::setBeforeEnd(std::function<void()> hook) {
+    beforeEnd() = std::move(hook);
+}
+
 void QtHost::endProcess() {
+    if (beforeEnd()) {
+        try {
+            beforeEnd()();
+        } catch (...) {
+        }
+    }
     if (mInstanceLock)
         mInstanceLock->unlock();
     if (mCursorPushed)
@@ -417,8 +432,8 @@ void QtHost::endProcess() {
     mCursorPushed = false;
     std::fflush(stdout);
     std::fflush(stderr);
-    // Static destructors would run after Qt's own globals are gone (an open service object's
-    // database connection among them); every save is already committed, so nothing is lost.
+    // Static destructors would run after Qt's own globals are gone; the hook above has already
+    // closed what must not be left open.
     std::_Exit(0);
 }
 

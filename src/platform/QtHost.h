@@ -4,6 +4,7 @@
 
 #include <QPointer>
 #include <QStringList>
+#include <functional>
 #include <memory>
 
 class QLockFile;
@@ -47,9 +48,13 @@ public:
     // by a crashed copy is stale by its process id and is taken over.
     bool previousInstance() override;
     void doEvents() override;
-    // Frees the instance lock, flushes the standard streams and leaves with std::exit(0), so
-    // that nothing after End runs, even before the event loop has started.
+    // Runs the hook set by setBeforeEnd, frees the instance lock, flushes the standard streams
+    // and leaves with std::_Exit(0), so that nothing after End runs, even before the event loop
+    // has started.
     void endProcess() override;
+    // What End does before the process goes (the core closes the library files there); a
+    // failure in it does not keep the process from ending.
+    static void setBeforeEnd(std::function<void()> hook);
 
     // "Desc|pattern|Desc|pattern" (or ":" between the entries) as Qt name filters.
     static QStringList nameFilters(const QString& filter);

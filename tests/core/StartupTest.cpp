@@ -11,6 +11,7 @@
 #include "frmLogin.h"
 #include "frmUser.h"
 #include "mDriveInfo.h"
+#include "mHelpRoutines.h"
 #include "mRegConstants.h"
 #include "mRegistry.h"
 #include "quillstone_private.h"
@@ -21,6 +22,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QTest>
 #include <csignal>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -58,6 +60,36 @@ TEST_F(Startup, MissingDatabaseShowsTheServiceTextThenTheDialogThenTheLogin) {
     EXPECT_EQ(login->Caption(), QStringLiteral("Login To Database You Selected"));
     EXPECT_FALSE(gblnFirstUser);
     EXPECT_EQ(registryFileName(), QStringLiteral("Found.mdb"));
+}
+
+TEST_F(Startup, OnAFreshHomeHelpOnTheDatabaseDialogShowsItsTopicFromTheHelpFolder) {
+    hostScript.expectMsgBox(
+        QStringLiteral("The Quillstone Database does not exist in the specified path."));
+    hostScript.onModal<frmDatabase>(QStringLiteral("frmDatabase"), [this](frmDatabase& dialog) {
+        QTest::mouseClick(dialog.cmdHelp, Qt::LeftButton);
+        hostScript.expectMsgBox(QStringLiteral("Do you wish to continue?"), vbYes);
+        dialog.cmdExit_Click();
+    });
+    EXPECT_TRUE(hostScript.runToEnd([] { Main(); }));
+
+    const QList<HostCall> help = hostScript.callsOf(QStringLiteral("Help"));
+    ASSERT_EQ(help.size(), 1);
+    EXPECT_EQ(help.first().title,
+              FormatPath(AppPath()) + QStringLiteral("HelpFiles/Quillstone.hlp"));
+    EXPECT_EQ(help.first().text, QStringLiteral("1550"));
+    EXPECT_EQ(help.first().flags, HELP_CONTEXT);
+}
+
+TEST_F(Startup, TheHelpFolderTheUserHasIsKept) {
+    for (const QString& mine : {QStringLiteral("/srv/help"), QStringLiteral("")}) {
+        SaveRegSetting(QString::fromLatin1(REG_KEY_HELPFILES),
+                       QString::fromLatin1(REG_VAL_HELPFILES_FILEPATH), mine);
+        WriteInstallDefaults();
+        EXPECT_EQ(GetRegSetting(QString::fromLatin1(REG_KEY_HELPFILES),
+                                QString::fromLatin1(REG_VAL_HELPFILES_FILEPATH))
+                      .toString(),
+                  mine);
+    }
 }
 
 TEST_F(Startup, EmptyDatabaseAsksForTheFirstUserThenPrefillsALoginThatMakesAnAdministrator) {

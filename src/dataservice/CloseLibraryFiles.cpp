@@ -1,0 +1,11 @@
+#include "CloseLibraryFiles.h"
+
+#include "SqliteStore.h"
+
+namespace qs {
+
+void CloseLibraryFiles() {
+    SqliteStore::closeAll();
+}
+
+} // namespace qs
