@@ -100,6 +100,10 @@ void TreeNodes::Remove(const Node& node) {
     mTree->detachSubtree(n.item);
 }
 
+void TreeNodes::MoveAll(const QVector<QPair<QString, QString>>& keyToParentKey) {
+    mTree->moveAll(keyToParentKey);
+}
+
 void TreeNodes::Clear() {
     mTree->clearAll();
 }

@@ -124,11 +124,9 @@ QTreeWidgetItem* TreeView::newItem(const std::shared_ptr<NodeData>& data, const 
     return item;
 }
 
-namespace {
-bool textBefore(const QString& a, const QString& b) {
+bool TreeView::textBefore(const QString& a, const QString& b) {
     return QString::compare(a, b, Qt::CaseInsensitive) < 0;
 }
-} // namespace
 
 void TreeView::insertChild(QTreeWidgetItem* parent, QTreeWidgetItem* item, int position) {
     const bool sorted = parent == invisibleRootItem() ? mSorted : dataOf(parent)->sorted;
