@@ -80,6 +80,13 @@ Node TreeNodes::Item(const QString& key) const {
     return Node(it.value());
 }
 
+NodeData* TreeNodes::dataOf(const QString& key) const {
+    const auto it = mByKey.constFind(key);
+    if (key.isEmpty() || it == mByKey.constEnd())
+        notFound();
+    return it.value().get();
+}
+
 Node TreeNodes::Item(int index) const {
     if (index < 1 || index > mNodes.size())
         notFound();

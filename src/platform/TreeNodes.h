@@ -84,6 +84,8 @@ private:
     TreeNodes(const TreeNodes&) = delete;
     TreeNodes& operator=(const TreeNodes&) = delete;
     void renumber();
+    // The data of the node of that key; raises as Item does.
+    NodeData* dataOf(const QString& key) const;
 
     TreeView* mTree;
     QVector<std::shared_ptr<NodeData>> mNodes;

@@ -10,6 +10,7 @@
 namespace qs {
 
 class ImageList;
+class TreeMovePlan;
 
 // Drag effects, drag-over states and drop modes.
 enum OLEDropEffect : int { vbDropEffectNone = 0, vbDropEffectCopy = 1, vbDropEffectMove = 2 };
@@ -128,6 +129,7 @@ private:
     friend class Node;
     friend class TreeNodes;
     friend class TreeViewDelegate;
+    friend class TreeMovePlan;
 
     static NodeData* dataOf(const QTreeWidgetItem* item);
     Node nodeOf(const QTreeWidgetItem* item) const;

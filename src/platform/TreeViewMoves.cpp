@@ -1,7 +1,8 @@
 // Nodes.MoveAll: many Parent assignments in one rearrangement of the widget.
 //
-// Moving one item out of a child list of 100,000 shifts that list and makes the widget look
-// every later row up again, so moving each node by itself is quadratic.  Here the moves are
+// Moving one item at a time out of a child list of 100,000 costs time in proportion to that
+// list (the widget finds an item's row by searching its parent's children), so a fill's second
+// pass done by Parent assignments is quadratic.  Here the moves are
 // first played on a model of the child lists: a list is copied once, when a move first touches
 // it; a move marks the node's old entry dead (its stamp is no longer the node's) and adds a new
 // entry at the end, or in text order under a sorted parent.  Then every list that changed is
@@ -10,110 +11,111 @@
 #include "QsError.h"
 #include "TreeView.h"
 
-#include <QHash>
 #include <QSet>
 #include <QSignalBlocker>
 #include <exception>
 
 namespace qs {
 
-namespace {
-
-struct Entry {
-    QTreeWidgetItem* item;
-    quint64 stamp; // 0 for a child that was there before the moves
-};
-
-class MovePlan {
+// The child lists as the moves leave them.  A node is known by its place in the collection
+// (NodeData::index), so the plan's state lives in arrays; slot 0 stands for the top level.
+class TreeMovePlan {
 public:
-    MovePlan(QTreeWidgetItem* root, std::function<bool(QTreeWidgetItem*)> sorted)
-        : mRoot(root), mSorted(std::move(sorted)) {}
+    struct Entry {
+        NodeData* node;
+        quint64 stamp; // 0 for a child that was there before the moves
+    };
 
-    // The parent an item has after the moves so far; the root for a top-level item.
-    QTreeWidgetItem* parentOf(QTreeWidgetItem* item) const {
-        const auto found = mParent.constFind(item);
-        if (found != mParent.constEnd())
-            return *found;
-        return item->parent() ? item->parent() : mRoot;
-    }
+    TreeMovePlan(int nodeCount, QTreeWidgetItem* root, bool rootSorted)
+        : mParent(nodeCount + 1, nullptr), mStamp(nodeCount + 1, 0), mList(nodeCount + 1, -1),
+          mRoot(root), mRootSorted(rootSorted) {}
 
-    void move(QTreeWidgetItem* item, QTreeWidgetItem* target) {
-        for (QTreeWidgetItem* up = target; up && up != mRoot; up = parentOf(up))
-            if (up == item)
+    void move(NodeData* node, NodeData* target) {
+        for (NodeData* up = target; up; up = parentOf(up))
+            if (up == node)
                 throw QsError(TreeNodes::kErrCycle, QString::fromLatin1(kAppSource),
                               QStringLiteral("This would introduce a cycle"));
-        children(parentOf(item));
+        children(parentOf(node));
         QVector<Entry>& list = children(target);
         const quint64 stamp = ++mLastStamp;
-        mStamp.insert(item, stamp);
-        mParent.insert(item, target);
+        mStamp[node->index] = stamp;
+        mParent[node->index] = target;
         int at = list.size();
-        if (mSorted(target)) {
+        if (target ? target->sorted : mRootSorted) {
             // As TreeView::placeSorted: after the last child whose text is not above it.
+            const QString text = node->item->text(0);
             while (at > 0 && (!live(list.at(at - 1)) ||
-                              TreeView::textBefore(item->text(0), list.at(at - 1).item->text(0))))
+                              TreeView::textBefore(text, list.at(at - 1).node->item->text(0))))
                 --at;
         }
-        list.insert(at, {item, stamp});
+        list.insert(at, {node, stamp});
     }
 
-    // The child lists that changed, in the order they were first touched.
-    const QVector<QTreeWidgetItem*>& changed() const { return mOrder; }
+    // The widget items whose child lists changed, in the order they were first touched.
+    QVector<QTreeWidgetItem*> changed() const {
+        QVector<QTreeWidgetItem*> items;
+        for (NodeData* owner : mOwners)
+            items.append(itemOf(owner));
+        return items;
+    }
 
-    // The final children of a changed parent, in order.
-    QList<QTreeWidgetItem*> finalChildren(QTreeWidgetItem* parent) const {
+    // The final children of the i-th changed list, in order.
+    QList<QTreeWidgetItem*> finalChildren(int i) const {
         QList<QTreeWidgetItem*> items;
-        for (const Entry& e : mChildren.value(parent))
+        for (const Entry& e : mLists.at(i))
             if (live(e))
-                items.append(e.item);
+                items.append(e.node->item);
         return items;
     }
 
 private:
-    bool live(const Entry& e) const { return mStamp.value(e.item, 0) == e.stamp; }
+    // The parent a node has after the moves so far; null at the top level.
+    NodeData* parentOf(NodeData* node) const {
+        return mStamp.at(node->index) ? mParent.at(node->index)
+                                      : TreeView::dataOf(node->item->parent());
+    }
+    QTreeWidgetItem* itemOf(NodeData* node) const { return node ? node->item : mRoot; }
+    bool live(const Entry& e) const { return mStamp.at(e.node->index) == e.stamp; }
 
-    QVector<Entry>& children(QTreeWidgetItem* parent) {
-        auto found = mChildren.find(parent);
-        if (found == mChildren.end()) {
+    QVector<Entry>& children(NodeData* parent) {
+        int& at = mList[parent ? parent->index : 0];
+        if (at < 0) {
+            const QTreeWidgetItem* item = itemOf(parent);
             QVector<Entry> list;
-            list.reserve(parent->childCount());
-            for (int i = 0; i < parent->childCount(); ++i)
-                list.append({parent->child(i), 0});
-            found = mChildren.insert(parent, list);
-            mOrder.append(parent);
+            list.reserve(item->childCount());
+            for (int i = 0; i < item->childCount(); ++i)
+                list.append({TreeView::dataOf(item->child(i)), 0});
+            at = mLists.size();
+            mLists.append(list);
+            mOwners.append(parent);
         }
-        return *found;
+        return mLists[at];
     }
 
+    QVector<NodeData*> mParent;
+    QVector<quint64> mStamp; // the stamp of a node's live entry; 0 while it has not moved
+    QVector<int> mList;      // the node's own child list in mLists; -1 while untouched
+    QVector<QVector<Entry>> mLists;
+    QVector<NodeData*> mOwners; // whose list each of mLists is; null for the top level
     QTreeWidgetItem* mRoot;
-    std::function<bool(QTreeWidgetItem*)> mSorted;
-    QHash<QTreeWidgetItem*, QTreeWidgetItem*> mParent;
-    QHash<QTreeWidgetItem*, quint64> mStamp;
-    QHash<QTreeWidgetItem*, QVector<Entry>> mChildren;
-    QVector<QTreeWidgetItem*> mOrder;
+    bool mRootSorted;
     quint64 mLastStamp = 0;
 };
 
-} // namespace
-
 void TreeView::moveAll(const QVector<QPair<QString, QString>>& keyToParentKey) {
-    QTreeWidgetItem* root = invisibleRootItem();
-    MovePlan plan(root, [this, root](QTreeWidgetItem* parent) {
-        return parent == root ? mSorted : dataOf(parent)->sorted;
-    });
+    TreeMovePlan plan(Nodes.Count(), invisibleRootItem(), mSorted);
     // A failing pair stops the plan; the moves before it still happen, then it raises.
     std::exception_ptr failure;
     try {
         for (const auto& pair : keyToParentKey) {
-            NodeData& node = Nodes.Item(pair.first).live();
-            NodeData& parent = Nodes.Item(pair.second).live();
-            plan.move(node.item, parent.item);
+            NodeData* node = Nodes.dataOf(pair.first);
+            plan.move(node, Nodes.dataOf(pair.second));
         }
     } catch (...) {
         failure = std::current_exception();
     }
 
-    const QVector<QTreeWidgetItem*>& changed = plan.changed();
+    const QVector<QTreeWidgetItem*> changed = plan.changed();
     if (!changed.isEmpty()) {
         // Taking items out collapses them and may move the current item: both are put back.
         const QVector<QTreeWidgetItem*> expanded = expandedUnder(changed);
@@ -127,9 +129,9 @@ void TreeView::moveAll(const QVector<QPair<QString, QString>>& keyToParentKey) {
             // Lists of items outside the widget first: filling them raises nothing, and their
             // subtrees join the widget with them.
             for (bool inWidget : {false, true})
-                for (QTreeWidgetItem* parent : changed)
-                    if ((parent->treeWidget() != nullptr) == inWidget)
-                        parent->insertChildren(0, plan.finalChildren(parent));
+                for (int i = 0; i < changed.size(); ++i)
+                    if ((changed.at(i)->treeWidget() != nullptr) == inWidget)
+                        changed.at(i)->insertChildren(0, plan.finalChildren(i));
             for (QTreeWidgetItem* item : expanded)
                 item->setExpanded(true);
             if (current)

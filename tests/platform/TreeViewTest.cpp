@@ -350,6 +350,28 @@ TEST_F(TreeViewTest, SortedOrdersChildrenByTextIgnoringCaseNowAndLater) {
               QStringList({"ROOT", "F", "k1", "k2", "k3", "G", "g1", "g2", "k4"}));
 }
 
+TEST_F(TreeViewTest, SortingKeepsExpandedNodesAndTheSelectionWhereTheyAre) {
+    Node b = tree.Nodes.Add("ROOT", tvwChild, "B", "beta");
+    Node a = tree.Nodes.Add("ROOT", tvwChild, "A", "alpha");
+    Node b1 = tree.Nodes.Add("B", tvwChild, "B1", "b1");
+    tree.Nodes.Add("B1", tvwChild, "B1x", "leaf");
+    root.setExpanded(true);
+    b.setExpanded(true);
+    b1.setExpanded(true);
+    tree.setSelectedItem(b1);
+    QStringList events;
+    tree.Collapse = [&](Node n) { events << n.Key(); };
+
+    root.setSorted(true);
+
+    EXPECT_EQ(childTexts(root), QStringList({"alpha", "beta"}));
+    EXPECT_TRUE(b.Expanded());
+    EXPECT_TRUE(b1.Expanded());
+    EXPECT_FALSE(a.Expanded());
+    EXPECT_EQ(tree.SelectedItem(), b1);
+    EXPECT_TRUE(events.isEmpty());
+}
+
 TEST_F(TreeViewTest, SortedSetBeforeAddingKeepsMembersInOrder) {
     Node group = tree.Nodes.Add("ROOT", tvwChild, "57_SC57ModuleTestedSubsNoDrag", "Subs", "Sub");
     group.setSorted(true);
