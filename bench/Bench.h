@@ -33,4 +33,18 @@ template <class F> double MedianMs(int runs, F&& f) {
     return times.at(times.size() / 2);
 }
 
+// The same, with setup() run before each call and left out of the time.
+template <class S, class F> double MedianMs(int runs, S&& setup, F&& f) {
+    QVector<double> times;
+    for (int i = 0; i < runs; ++i) {
+        setup();
+        QElapsedTimer timer;
+        timer.start();
+        f();
+        times << timer.nsecsElapsed() / 1e6;
+    }
+    std::sort(times.begin(), times.end());
+    return times.at(times.size() / 2);
+}
+
 } // namespace qs::bench
