@@ -67,15 +67,15 @@ QVector<ShapeNode> nodesOf(const VbArray<ItemRow>& rows) {
 
 } // namespace
 
-double FigureCategoryTreePlain(const BenchContext& context, const QString& path) {
+Times FigureCategoryTreePlain(const BenchContext& context, const QString& path) {
     TreeView tree(QStringLiteral("tvwCategories"));
     tree.setImageList(&ImageList::instance());
     tree.show();
-    const double ms = MedianMs(context.runs, [&] { fillCategories(tree, path); });
+    const Times times = MedianTimes(context.runs, [&] { fillCategories(tree, path); });
     const bool agree = tree.Nodes(QStringLiteral("ROOT")).Children() == WindowLibrary::kCategories;
-    PrintFigure(context, QStringLiteral("category_tree_plain_200"), ms, -1, tree.Nodes.Count(),
-                agree);
-    return ms;
+    PrintFigure(context, QStringLiteral("category_tree_plain_200"), times.ms, -1,
+                tree.Nodes.Count(), agree, CpuPairs(times));
+    return times;
 }
 
 PlainFill FigureMainTreePlain(const BenchContext& context, const QString& path, int items) {
@@ -91,18 +91,19 @@ PlainFill FigureMainTreePlain(const BenchContext& context, const QString& path, 
         FillBare(tree, nodesOf(rows), batched);
     };
     const int slowRuns = items > 20000 ? qMin(context.runs, 3) : context.runs;
-    PlainFill times{};
-    times.oneByOne = MedianMs(slowRuns, [&] { fill(false); });
+    PlainFill times;
+    times.oneByOne = MedianTimes(slowRuns, [&] { fill(false); });
     const QString oneByOne = ShapeOf(tree);
-    times.batched = MedianMs(context.runs, [&] { fill(true); });
-    PrintFigure(
-        context, QStringLiteral("main_tree_plain_%1").arg(items), times.batched, times.oneByOne,
-        tree.Nodes.Count() - 1, ShapeOf(tree) == oneByOne,
-        {{QStringLiteral("baseline"), QStringLiteral("\"one Parent assignment at a time\"")}});
+    times.batched = MedianTimes(context.runs, [&] { fill(true); });
+    auto extra = CpuPairs(times.batched, times.oneByOne);
+    extra.append(
+        {QStringLiteral("baseline"), QStringLiteral("\"one Parent assignment at a time\"")});
+    PrintFigure(context, QStringLiteral("main_tree_plain_%1").arg(items), times.batched.ms,
+                times.oneByOne.ms, tree.Nodes.Count() - 1, ShapeOf(tree) == oneByOne, extra);
     return times;
 }
 
-double FigureItemLoadPlain(const BenchContext& context, const QString& path, int id) {
+Times FigureItemLoadPlain(const BenchContext& context, const QString& path, int id) {
     RichTextBox code(QStringLiteral("RichTextBoxCode"));
     ListView revisions(QStringLiteral("lvwRevisionHistory"));
     revisions.ColumnHeaders.Add(QStringLiteral("COLHEADER_REVISIONDATE"),
@@ -112,7 +113,7 @@ double FigureItemLoadPlain(const BenchContext& context, const QString& path, int
     code.show();
     revisions.show();
     QString stored;
-    const double ms = MedianMs(context.runs, [&] {
+    const Times times = MedianTimes(context.runs, [&] {
         const cSourceCode item = cLibraryService(path).GetSourceCode(id);
         stored = item.Code();
         code.setTextRTF(stored);
@@ -127,9 +128,11 @@ double FigureItemLoadPlain(const BenchContext& context, const QString& path, int
     });
     const bool agree =
         code.Text() == stored && revisions.ListItems.Count() == WindowLibrary::kBigItemRevisions;
-    PrintFigure(context, QStringLiteral("item_load_plain"), ms, -1, revisions.ListItems.Count(),
-                agree, {{QStringLiteral("code_chars"), QString::number(stored.size())}});
-    return ms;
+    auto extra = CpuPairs(times);
+    extra.append({QStringLiteral("code_chars"), QString::number(stored.size())});
+    PrintFigure(context, QStringLiteral("item_load_plain"), times.ms, -1,
+                revisions.ListItems.Count(), agree, extra);
+    return times;
 }
 
 } // namespace qs::bench

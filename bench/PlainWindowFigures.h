@@ -8,16 +8,16 @@ namespace qs::bench {
 // (WindowLibrary): what the window's figures stand beside.
 
 // The category tree: the three lookups, every node added straight under its parent.
-double FigureCategoryTreePlain(const BenchContext& context, const QString& path);
+Times FigureCategoryTreePlain(const BenchContext& context, const QString& path);
 
 struct PlainFill {
-    double batched;  // GetItems and the bare fill with Nodes.MoveAll
-    double oneByOne; // the same with one Parent assignment at a time
+    Times batched;  // GetItems and the bare fill with Nodes.MoveAll
+    Times oneByOne; // the same with one Parent assignment at a time
 };
 // The item tree of the node with that many items.
 PlainFill FigureMainTreePlain(const BenchContext& context, const QString& path, int items);
 
 // The big item: GetSourceCode, its code into a RichTextBox, its revisions into a ListView.
-double FigureItemLoadPlain(const BenchContext& context, const QString& path, int id);
+Times FigureItemLoadPlain(const BenchContext& context, const QString& path, int id);
 
 } // namespace qs::bench

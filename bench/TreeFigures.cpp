@@ -36,9 +36,13 @@ void addPlain(QTreeWidget& widget, const QVector<ShapeNode>& nodes, bool nested)
     }
 }
 
-QVector<QPair<QString, QString>> perNode(double ms, int nodes) {
-    return {{QStringLiteral("nodes"), QString::number(nodes)},
-            {QStringLiteral("us_per_node"), QString::number(ms * 1000.0 / nodes, 'f', 3)}};
+// The processor times, and the time per node of the operation.
+QVector<QPair<QString, QString>> perNode(const Times& times, const Times& baseline, int nodes) {
+    auto pairs = CpuPairs(times, baseline);
+    pairs.append({QStringLiteral("nodes"), QString::number(nodes)});
+    pairs.append(
+        {QStringLiteral("cpu_us_per_node"), QString::number(times.cpuMs * 1000.0 / nodes, 'f', 3)});
+    return pairs;
 }
 
 QString name(const char* figure, int items) {
@@ -51,17 +55,17 @@ void FigureTreeAdd(const BenchContext& context, int items) {
     const QVector<ShapeNode> nodes = shapeNodes(items);
     auto tree = newTree();
     tree->setRedraw(false);
-    const double ms = MedianMs(
+    const Times times = MedianTimes(
         context.runs, [&] { tree->Nodes.Clear(); }, [&] { AddFirstPass(*tree, nodes); });
     QTreeWidget plain;
     plain.show();
     plain.setUpdatesEnabled(false);
-    const double baseline = MedianMs(
+    const Times baseline = MedianTimes(
         context.runs, [&] { plain.clear(); }, [&] { addPlain(plain, nodes, false); });
     const bool agree = tree->Nodes.Count() == nodes.size() + 1 &&
                        tree->Nodes(QStringLiteral("ROOT")).Children() == nodes.size();
-    PrintFigure(context, name("tree_add", items), ms, baseline, nodes.size(), agree,
-                perNode(ms, nodes.size() + 1));
+    PrintFigure(context, name("tree_add", items), times.ms, baseline.ms, nodes.size(), agree,
+                perNode(times, baseline, nodes.size() + 1));
 }
 
 void FigureTreeReparent(const BenchContext& context, int items) {
@@ -74,28 +78,31 @@ void FigureTreeReparent(const BenchContext& context, int items) {
     };
     // One assignment at a time takes seconds at this size: fewer runs.
     const int slowRuns = items > 20000 ? qMin(context.runs, 3) : context.runs;
-    const double baseline = MedianMs(slowRuns, firstPass, [&] { ReparentOneByOne(*tree); });
+    const Times baseline = MedianTimes(slowRuns, firstPass, [&] { ReparentOneByOne(*tree); });
     const QString oneByOne = ShapeOf(*tree);
-    const double ms = MedianMs(context.runs, firstPass, [&] { ReparentBatched(*tree); });
+    const Times times = MedianTimes(context.runs, firstPass, [&] { ReparentBatched(*tree); });
     const bool agree = ShapeOf(*tree) == oneByOne;
-    PrintFigure(
-        context, name("tree_reparent", items), ms, baseline, nodes.size(), agree,
-        {{QStringLiteral("baseline"), QStringLiteral("\"one Parent assignment at a time\"")},
-         {QStringLiteral("speedup"), QString::number(baseline / qMax(ms, 0.001), 'f', 1)}});
+    auto extra = CpuPairs(times, baseline);
+    extra.append(
+        {QStringLiteral("baseline"), QStringLiteral("\"one Parent assignment at a time\"")});
+    extra.append({QStringLiteral("cpu_speedup"),
+                  QString::number(baseline.cpuMs / qMax(times.cpuMs, 0.001), 'f', 1)});
+    PrintFigure(context, name("tree_reparent", items), times.ms, baseline.ms, nodes.size(), agree,
+                extra);
 }
 
 void FigureTreeClear(const BenchContext& context, int items) {
     const QVector<ShapeNode> nodes = shapeNodes(items);
     auto tree = newTree();
-    const double ms = MedianMs(
+    const Times times = MedianTimes(
         context.runs, [&] { FillBare(*tree, nodes, true); }, [&] { tree->Nodes.Clear(); });
     const bool agree = tree->Nodes.Count() == 0 && tree->topLevelItemCount() == 0;
     QTreeWidget plain;
     plain.show();
-    const double baseline = MedianMs(
+    const Times baseline = MedianTimes(
         context.runs, [&] { addPlain(plain, nodes, true); }, [&] { plain.clear(); });
-    PrintFigure(context, name("tree_clear", items), ms, baseline, nodes.size(), agree,
-                perNode(ms, nodes.size() + 1));
+    PrintFigure(context, name("tree_clear", items), times.ms, baseline.ms, nodes.size(), agree,
+                perNode(times, baseline, nodes.size() + 1));
 }
 
 } // namespace qs::bench

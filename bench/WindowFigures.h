@@ -7,10 +7,10 @@ namespace qs::bench {
 
 // The plain way's times, which the window's figures print beside their own.
 struct PlainTimes {
-    double categoryTree = -1;
-    PlainFill small{-1, -1};
-    PlainFill large{-1, -1};
-    double itemLoad = -1;
+    Times categoryTree;
+    PlainFill small;
+    PlainFill large;
+    Times itemLoad;
 };
 
 // The window's own figures on the window library: FillTreeViewCategory for 200 categories,
