@@ -1,6 +1,7 @@
 #include "Bench.h"
 
 #include <cstdio>
+#include <ctime>
 
 namespace qs::bench {
 
@@ -18,6 +19,20 @@ void PrintFigure(const BenchContext& context, const QString& figure, double ms, 
     line += QLatin1Char('}');
     std::printf("%s\n", line.toUtf8().constData());
     std::fflush(stdout);
+}
+
+double ThreadCpuMs() {
+    timespec now{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
+    return double(now.tv_sec) * 1e3 + double(now.tv_nsec) / 1e6;
+}
+
+QVector<QPair<QString, QString>> CpuPairs(const Times& times, const Times& baseline) {
+    QVector<QPair<QString, QString>> pairs{
+        {QStringLiteral("cpu_ms"), QString::number(times.cpuMs, 'f', 3)}};
+    if (baseline.cpuMs >= 0)
+        pairs.append({QStringLiteral("baseline_cpu_ms"), QString::number(baseline.cpuMs, 'f', 3)});
+    return pairs;
 }
 
 } // namespace qs::bench

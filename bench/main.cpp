@@ -1,30 +1,108 @@
 // bench: builds a synthetic library and prints one JSON line per figure.
-//   bench [--items N] [--db path] [--reuse] [--runs R]
+//   bench [--items N] [--db path] [--reuse] [--runs R] [--stored-mb M] [--skip-library]
 // --items  items in the library (default 100000)
 // --db     library file (default: quillstone-bench-N.mdb in the temporary folder)
 // --reuse  keep an existing file at --db instead of building it again
 // --runs   timed runs of each operation; the median is printed (default 7)
 // --stored-mb  size of the stored file added and written back (default 200; 0 leaves it out)
 // --rtf-mb  size of the rich text converted to HTML (default 1; 0 leaves it out)
+// --skip-library  leaves out the figures of the synthetic library, the parser and the converter;
+//                 the tree and window figures remain
 #include "Bench.h"
 #include "Figures.h"
 #include "PlainScan.h"
+#include "PlainWindowFigures.h"
 #include "SyntheticLibrary.h"
+#include "TreeFigures.h"
+#include "WindowFigures.h"
+#include "WindowLibrary.h"
 
 #include "QsError.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <cstdio>
 
 using namespace qs::bench;
 
+namespace {
+
+void libraryFigures(const BenchContext& context, bool reuse, int storedMb) {
+    if (!reuse || !QFileInfo::exists(context.path)) {
+        const double ms =
+            MedianMs(1, [&] { SyntheticLibrary::build(context.path, context.items); });
+        PrintFigure(context, QStringLiteral("build_library"), ms, -1,
+                    PlainScan::itemCount(context.path), true,
+                    {{QStringLiteral("db"), QStringLiteral("\"%1\"").arg(context.path)}});
+    }
+    FigureFileSize(context);
+    FigureGetItems(context);
+    FigureGetSourceCode(context);
+    const QString common = QString::fromLatin1(SyntheticLibrary::kCommonWord);
+    const QString rare = QString::fromLatin1(SyntheticLibrary::kRareWord);
+    const char* modes[] = {"phrase", "any", "all"};
+    for (int mode = 0; mode < 3; ++mode) {
+        for (bool filtered : {false, true}) {
+            const QString tail =
+                QLatin1String(modes[mode]) + (filtered ? QStringLiteral("_filtered") : QString());
+            FigureSearch(context, QStringLiteral("search_common_") + tail, mode, common, filtered);
+            FigureSearch(context, QStringLiteral("search_rare_") + tail, mode, rare, filtered);
+        }
+    }
+    // Beyond single words: pieces the index only narrows and the rule confirms.
+    FigureSearch(context, QStringLiteral("search_two_words_rare_phrase"), 0,
+                 rare + QStringLiteral(" toolkit"), false);
+    FigureSearch(context, QStringLiteral("search_dotted_common_phrase"), 0,
+                 QStringLiteral("New ADODB.") + common, false);
+    FigureSearch(context, QStringLiteral("search_two_words_common_all"), 2,
+                 common + QStringLiteral(" Printer"), false);
+    FigureBackup(context);
+    FigureCompact(context);
+    if (storedMb > 0)
+        FigureStoredFile(context, storedMb);
+}
+
+// The item tree on bare controls, then the window's own work beside its plain way.
+void treeAndWindowFigures(const BenchContext& library, bool reuse) {
+    BenchContext context = library;
+    for (int items : {WindowLibrary::kSmallItems, WindowLibrary::kLargeItems}) {
+        context.items = items;
+        FigureTreeAdd(context, items);
+        FigureTreeReparent(context, items);
+        FigureTreeClear(context, items);
+    }
+    const QString path = QDir::temp().filePath(QStringLiteral("quillstone-bench-window.mdb"));
+    context.items = WindowLibrary::kSmallItems + WindowLibrary::kLargeItems + 1;
+    if (!reuse || !QFileInfo::exists(path)) {
+        const double ms = MedianMs(1, [&] { WindowLibrary::build(path); });
+        PrintFigure(context, QStringLiteral("build_window_library"), ms, -1,
+                    PlainScan::itemCount(path), true,
+                    {{QStringLiteral("db"), QStringLiteral("\"%1\"").arg(path)}});
+    }
+    PlainTimes plain;
+    plain.categoryTree = FigureCategoryTreePlain(context, path);
+    plain.small = FigureMainTreePlain(context, path, WindowLibrary::kSmallItems);
+    plain.large = FigureMainTreePlain(context, path, WindowLibrary::kLargeItems);
+    plain.itemLoad = FigureItemLoadPlain(context, path, WindowLibrary::bigItemId());
+    if (WindowFiguresBuilt())
+        FigureWindow(context, path, plain);
+    else
+        std::fprintf(stderr, "bench: the window's figures are not built here (they need "
+                             "frmMain's fill procedures)\n");
+}
+
+} // namespace
+
 int main(int argc, char* argv[]) {
-    QCoreApplication app(argc, argv);
+    // The tree and window figures draw nothing anyone sees.
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication app(argc, argv);
     BenchContext context;
     context.items = 100000;
     bool reuse = false;
+    bool skipLibrary = false;
     int storedMb = 200;
     int rtfMb = 1;
     const QStringList args = app.arguments();
@@ -43,10 +121,12 @@ int main(int argc, char* argv[]) {
             rtfMb = qMax(0, args.at(++i).toInt());
         } else if (arg == QLatin1String("--reuse")) {
             reuse = true;
+        } else if (arg == QLatin1String("--skip-library")) {
+            skipLibrary = true;
         } else {
             std::fprintf(
                 stderr, "usage: bench [--items N] [--db path] [--reuse] [--runs R] [--stored-mb M] "
-                        "[--rtf-mb M]\n");
+                        "[--rtf-mb M] [--skip-library]\n");
             return 2;
         }
     }
@@ -59,42 +139,13 @@ int main(int argc, char* argv[]) {
             QDir::temp().filePath(QStringLiteral("quillstone-bench-%1.mdb").arg(context.items));
 
     try {
-        if (!reuse || !QFileInfo::exists(context.path)) {
-            const double ms =
-                MedianMs(1, [&] { SyntheticLibrary::build(context.path, context.items); });
-            PrintFigure(context, QStringLiteral("build_library"), ms, -1,
-                        PlainScan::itemCount(context.path), true,
-                        {{QStringLiteral("db"), QStringLiteral("\"%1\"").arg(context.path)}});
+        if (!skipLibrary) {
+            libraryFigures(context, reuse, storedMb);
+            FigureParseModule(context);
+            if (rtfMb > 0)
+                FigureRtfToHtml(context, rtfMb);
         }
-        FigureFileSize(context);
-        FigureGetItems(context);
-        FigureGetSourceCode(context);
-        const QString common = QString::fromLatin1(SyntheticLibrary::kCommonWord);
-        const QString rare = QString::fromLatin1(SyntheticLibrary::kRareWord);
-        const char* modes[] = {"phrase", "any", "all"};
-        for (int mode = 0; mode < 3; ++mode) {
-            for (bool filtered : {false, true}) {
-                const QString tail = QLatin1String(modes[mode]) +
-                                     (filtered ? QStringLiteral("_filtered") : QString());
-                FigureSearch(context, QStringLiteral("search_common_") + tail, mode, common,
-                             filtered);
-                FigureSearch(context, QStringLiteral("search_rare_") + tail, mode, rare, filtered);
-            }
-        }
-        // Beyond single words: pieces the index only narrows and the rule confirms.
-        FigureSearch(context, QStringLiteral("search_two_words_rare_phrase"), 0,
-                     rare + QStringLiteral(" toolkit"), false);
-        FigureSearch(context, QStringLiteral("search_dotted_common_phrase"), 0,
-                     QStringLiteral("New ADODB.") + common, false);
-        FigureSearch(context, QStringLiteral("search_two_words_common_all"), 2,
-                     common + QStringLiteral(" Printer"), false);
-        FigureBackup(context);
-        FigureCompact(context);
-        FigureParseModule(context);
-        if (rtfMb > 0)
-            FigureRtfToHtml(context, rtfMb);
-        if (storedMb > 0)
-            FigureStoredFile(context, storedMb);
+        treeAndWindowFigures(context, reuse);
     } catch (const qs::QsError& e) {
         std::fprintf(stderr, "bench: %s\n", qPrintable(e.description()));
         return 1;

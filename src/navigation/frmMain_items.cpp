@@ -126,14 +126,7 @@ void frmMain::reparentItems() {
         if (!parentKey.isEmpty())
             moves.append({node.Key(), parentKey});
     }
-    // The one place the moves are made: a batched move of the tree takes this loop's place.
-    // Until then a node already under its parent (most rows: the top level) stays where it is.
-    for (const auto& move : moves) {
-        Node node = tree.Nodes(move.first);
-        const Node parent = tree.Nodes(move.second);
-        if (node.Parent() != parent)
-            node.setParent(parent);
-    }
+    tree.Nodes.MoveAll(moves);
 }
 
 void frmMain::setSelectionType(const QString& key, bool codeOnly) {

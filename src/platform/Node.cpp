@@ -176,6 +176,9 @@ long Node::BackColor() const {
 
 void Node::setBackColor(long color) {
     NodeData& n = live();
+    // The item shows the colour already; a fill sets it on every node.
+    if (color == n.backColor)
+        return;
     n.backColor = color;
     n.tree->applyBackColor(n);
 }

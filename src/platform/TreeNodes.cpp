@@ -80,6 +80,13 @@ Node TreeNodes::Item(const QString& key) const {
     return Node(it.value());
 }
 
+NodeData* TreeNodes::dataOf(const QString& key) const {
+    const auto it = mByKey.constFind(key);
+    if (key.isEmpty() || it == mByKey.constEnd())
+        notFound();
+    return it.value().get();
+}
+
 Node TreeNodes::Item(int index) const {
     if (index < 1 || index > mNodes.size())
         notFound();
@@ -98,6 +105,10 @@ void TreeNodes::Remove(const Node& node) {
     if (n.tree != mTree)
         notFound();
     mTree->detachSubtree(n.item);
+}
+
+void TreeNodes::MoveAll(const QVector<QPair<QString, QString>>& keyToParentKey) {
+    mTree->moveAll(keyToParentKey);
 }
 
 void TreeNodes::Clear() {

@@ -50,6 +50,16 @@ public:
     void Remove(const Node& node);
     void Clear();
 
+    // Moves many nodes, each with its subtree, under new parents in one go: the node of each
+    // pair's first key goes under the node of its second, in list order.  The tree ends as that
+    // many Parent assignments would leave it: the same parents, children in the same order (a
+    // sorted parent puts each arrival in its place), the same expanded nodes and selection.  A
+    // pair whose key or parent key is absent raises 35601, and a move under the node's own
+    // subtree 35614, as Parent assignment does; the pairs before it are moved, none after.
+    // The widget is rearranged once, at the end, so a fill's second pass is linear in the
+    // number of nodes where one assignment at a time shifts the root's whole child list.
+    void MoveAll(const QVector<QPair<QString, QString>>& keyToParentKey);
+
     // Iteration in insertion order (moves by Parent do not change it).
     class const_iterator {
     public:
@@ -74,6 +84,8 @@ private:
     TreeNodes(const TreeNodes&) = delete;
     TreeNodes& operator=(const TreeNodes&) = delete;
     void renumber();
+    // The data of the node of that key; raises as Item does.
+    NodeData* dataOf(const QString& key) const;
 
     TreeView* mTree;
     QVector<std::shared_ptr<NodeData>> mNodes;

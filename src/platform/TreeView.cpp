@@ -19,7 +19,17 @@
 namespace qs {
 
 namespace {
-constexpr int kDataRole = Qt::UserRole + 1;
+
+// The widget item of a node: it points at the node's data, and orders by text with case
+// ignored, as Sorted does, so that the widget's own sort can order children.
+class TreeItem : public QTreeWidgetItem {
+public:
+    explicit TreeItem(NodeData* data) : QTreeWidgetItem(UserType), node(data) {}
+    bool operator<(const QTreeWidgetItem& other) const override {
+        return TreeView::textBefore(text(0), other.text(0));
+    }
+    NodeData* const node;
+};
 
 // Expanded state of a subtree, kept across a take and re-insert, which forgets it.
 void saveExpanded(QTreeWidgetItem* item, QVector<QPair<QTreeWidgetItem*, bool>>& out) {
@@ -106,9 +116,9 @@ TreeView::~TreeView() {
 }
 
 NodeData* TreeView::dataOf(const QTreeWidgetItem* item) {
-    if (!item)
-        return nullptr;
-    return reinterpret_cast<NodeData*>(item->data(0, kDataRole).value<quintptr>());
+    if (!item || item->type() != QTreeWidgetItem::UserType)
+        return nullptr; // the invisible root
+    return static_cast<const TreeItem*>(item)->node;
 }
 
 Node TreeView::nodeOf(const QTreeWidgetItem* item) const {
@@ -117,19 +127,16 @@ Node TreeView::nodeOf(const QTreeWidgetItem* item) const {
 }
 
 QTreeWidgetItem* TreeView::newItem(const std::shared_ptr<NodeData>& data, const QString& text) {
-    auto* item = new QTreeWidgetItem();
+    auto* item = new TreeItem(data.get());
     item->setText(0, text);
-    item->setData(0, kDataRole, QVariant::fromValue(reinterpret_cast<quintptr>(data.get())));
     item->setFlags(item->flags() | Qt::ItemIsEditable);
     data->item = item;
     return item;
 }
 
-namespace {
-bool textBefore(const QString& a, const QString& b) {
+bool TreeView::textBefore(const QString& a, const QString& b) {
     return QString::compare(a, b, Qt::CaseInsensitive) < 0;
 }
-} // namespace
 
 void TreeView::insertChild(QTreeWidgetItem* parent, QTreeWidgetItem* item, int position) {
     const bool sorted = parent == invisibleRootItem() ? mSorted : dataOf(parent)->sorted;
@@ -151,21 +158,21 @@ void TreeView::placeSorted(QTreeWidgetItem* parent, QTreeWidgetItem* item) {
 }
 
 void TreeView::sortChildren(QTreeWidgetItem* parent) {
-    if (parent->childCount() < 2)
+    bool ordered = true;
+    for (int i = 1; i < parent->childCount() && ordered; ++i)
+        ordered = !textBefore(parent->child(i)->text(0), parent->child(i - 1)->text(0));
+    if (ordered)
         return;
-    QList<QTreeWidgetItem*> children;
-    for (int i = 0; i < parent->childCount(); ++i)
-        children.append(parent->child(i));
-    QList<QTreeWidgetItem*> ordered = children;
-    std::stable_sort(ordered.begin(), ordered.end(), [](QTreeWidgetItem* a, QTreeWidgetItem* b) {
-        return textBefore(a->text(0), b->text(0));
-    });
-    if (ordered == children)
-        return;
-    rearrangeQuietly(children, [&] {
-        parent->takeChildren();
-        parent->insertChildren(0, ordered);
-    });
+    // The widget's own sort is stable, orders by TreeItem's text rule, and moves expanded nodes
+    // and the selection with their rows; taking the children out and back would lose both.
+    const bool quiet = mQuiet;
+    mQuiet = true;
+    {
+        const QSignalBlocker block(this);
+        parent->sortChildren(0, Qt::AscendingOrder);
+    }
+    mQuiet = quiet;
+    viewport()->update();
 }
 
 void TreeView::moveItem(NodeData& node, QTreeWidgetItem* newParent) {

@@ -10,6 +10,7 @@
 namespace qs {
 
 class ImageList;
+class TreeMovePlan;
 
 // Drag effects, drag-over states and drop modes.
 enum OLEDropEffect : int { vbDropEffectNone = 0, vbDropEffectCopy = 1, vbDropEffectMove = 2 };
@@ -43,6 +44,8 @@ public:
 
     // True orders the top-level nodes by text (case ignored), now and for later ones.
     bool Sorted() const { return mSorted; }
+    // The order of sorted children: true when text a comes before b (case ignored).
+    static bool textBefore(const QString& a, const QString& b);
     void setSorted(bool sorted);
 
     // tvwAutomatic: a click on the selected node or F2 starts editing; tvwManual: only
@@ -126,6 +129,7 @@ private:
     friend class Node;
     friend class TreeNodes;
     friend class TreeViewDelegate;
+    friend class TreeMovePlan;
 
     static NodeData* dataOf(const QTreeWidgetItem* item);
     Node nodeOf(const QTreeWidgetItem* item) const;
@@ -134,6 +138,11 @@ private:
     void placeSorted(QTreeWidgetItem* parent, QTreeWidgetItem* item);
     void sortChildren(QTreeWidgetItem* parent);
     void moveItem(NodeData& node, QTreeWidgetItem* newParent);
+    // Nodes.MoveAll: plans every move on a model of the child lists, then rebuilds the child
+    // lists that changed (TreeViewMoves.cpp).
+    void moveAll(const QVector<QPair<QString, QString>>& keyToParentKey);
+    // The expanded items in the subtrees below these parents.
+    QVector<QTreeWidgetItem*> expandedUnder(const QVector<QTreeWidgetItem*>& parents) const;
     // Runs change, which takes the moved items out and puts them back, with no events.
     void rearrangeQuietly(const QList<QTreeWidgetItem*>& moved,
                           const std::function<void()>& change);

@@ -6,10 +6,12 @@
 
 #include <QApplication>
 #include <QDropEvent>
+#include <QHash>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMimeData>
 #include <QScrollBar>
+#include <functional>
 #include <gtest/gtest.h>
 
 using namespace qs;
@@ -141,6 +143,148 @@ TEST_F(TreeViewTest, ParentAssignmentBuildsTheTreeAndKeepsInsertionOrder) {
     EXPECT_EQ(tree.Nodes("SC58ClassUnTested").FullPath(), "Tarnwick\\Parsers\\Inner\\cLexer");
 }
 
+// ---- Nodes.MoveAll: many Parent assignments in one go ----
+
+namespace {
+
+// The shape of a tree as a person sees it: each node's key, an asterisk when expanded, its
+// children in display order; the selected node last.
+QString shape(const TreeView& tree) {
+    const std::function<QString(const Node&)> node = [&](const Node& n) {
+        QString text = n.Key() + (n.Expanded() ? "*" : "");
+        QStringList children;
+        for (Node c = n.Child(); c; c = c.Next())
+            children << node(c);
+        return children.isEmpty() ? text : text + "(" + children.join(' ') + ")";
+    };
+    QStringList top;
+    for (Node n : tree.Nodes)
+        if (n.Parent().isNothing())
+            top << node(n);
+    const Node selected = tree.SelectedItem();
+    return top.join(' ') + " | " + (selected ? selected.Key() : QString("-"));
+}
+
+int depthOf(Node n) {
+    int depth = 0;
+    for (; n.Parent(); n = n.Parent())
+        ++depth;
+    return depth;
+}
+
+// A fill's first pass: folders nested up to five deep and items, all added under the root in
+// an order that is not the tree's, with texts that repeat so that sorted parents see ties.  A
+// sorted folder holds children already, and one folder starts with an expanded subtree.
+// Returns the second pass: every node to the folder its tag names, then a few moves again.
+QVector<QPair<QString, QString>> fillFirstPass(TreeView& tree) {
+    tree.Nodes.Add("", tvwChild, "ROOT", "Tarnwick");
+    Node sorted = tree.Nodes.Add("ROOT", tvwChild, "S", "Sorted");
+    for (const char* text : {"b", "d", "B"})
+        tree.Nodes.Add("S", tvwChild, QString("S") + text, text);
+    sorted.setSorted(true);
+    // Folders F5 to F21 nest five deep; every other node goes under a folder made before it.
+    const QHash<QString, QString> chain{{"F5", "ROOT"}, {"F9", "F5"},   {"F13", "F9"},
+                                        {"F17", "F13"}, {"F21", "F17"}, {"I22", "F21"}};
+    QVector<QPair<QString, QString>> moves;
+    QStringList folders{"ROOT"};
+    quint32 seed = 12345;
+    const auto next = [&seed](int bound) {
+        seed = seed * 1103515245u + 12345u;
+        return int((seed >> 8) % quint32(bound));
+    };
+    for (int i = 1; i <= 60; ++i) {
+        const bool folder = i % 4 == 1;
+        const QString key = QString(folder ? "F%1" : "I%1").arg(i);
+        tree.Nodes.Add("ROOT", tvwChild, key, QString("abcde").mid(next(5), 1));
+        moves.append({key, chain.value(key, folders.at(next(folders.size())))});
+        if (folder)
+            folders << key;
+    }
+    tree.Nodes.Add("F1", tvwChild, "F1a", "x");
+    tree.Nodes.Add("F1a", tvwChild, "F1b", "y");
+    tree.Nodes("F1").setExpanded(true);
+    tree.Nodes("F1a").setExpanded(true);
+    tree.setSelectedItem(tree.Nodes("I10"));
+    // Moved twice: into the sorted folder with a tie and back to its parent; a folder with its
+    // subtree into the sorted folder, and another into that subtree.
+    tree.Nodes("I2").setText("a");
+    tree.Nodes("I3").setText("B");
+    tree.Nodes("F5").setText("c");
+    moves.append(qMakePair(QString("I2"), QString("S")));
+    moves.append(qMakePair(QString("I3"), QString("S")));
+    moves.append(qMakePair(QString("I3"), moves.at(2).second));
+    moves.append(qMakePair(QString("F5"), QString("S")));
+    moves.append(qMakePair(QString("F1"), QString("F9")));
+    return moves;
+}
+
+QVector<QPair<QString, QString>> withPair(QVector<QPair<QString, QString>> moves, int at,
+                                          const QPair<QString, QString>& pair) {
+    moves.insert(at, pair);
+    return moves;
+}
+
+} // namespace
+
+TEST(TreeViewMoveAll, EndsAsOneAssignmentAtATimeDoes) {
+    TreeView one("tvwMain"), batch("tvwMain");
+    const auto moves = fillFirstPass(one);
+    fillFirstPass(batch);
+    ASSERT_EQ(shape(one), shape(batch));
+
+    for (const auto& move : moves)
+        one.Nodes(move.first).setParent(one.Nodes(move.second));
+    batch.Nodes.MoveAll(moves);
+
+    EXPECT_EQ(shape(batch), shape(one));
+    EXPECT_EQ(keysInOrder(batch), keysInOrder(one));
+    // The comparison means something: the tree is deep, and the sorted folder took arrivals.
+    int deepest = 0;
+    for (Node n : batch.Nodes)
+        deepest = qMax(deepest, depthOf(n));
+    EXPECT_GE(deepest, 5);
+    EXPECT_EQ(childTexts(batch.Nodes("S")), QStringList({"a", "b", "B", "c", "d"}));
+    EXPECT_EQ(batch.Nodes("F1b").Parent().Key(), "F1a");
+    EXPECT_TRUE(batch.Nodes("F1a").Expanded());
+    EXPECT_EQ(batch.SelectedItem().Key(), "I10");
+}
+
+// A pair that fails raises what Parent assignment raises there; the pairs before it are moved
+// and none after, as with one assignment at a time.
+TEST(TreeViewMoveAll, FailingPairRaisesThereWithThePairsBeforeItMoved) {
+    struct Case {
+        const char* name;
+        QPair<QString, QString> pair;
+        long error;
+    };
+    const Case cases[] = {
+        {"absent parent", {"I7", "SC99CodeTestedFolder"}, 35601},
+        {"absent node", {"I999", "ROOT"}, 35601},
+        {"under its own subtree", {"F1", "F1b"}, 35614},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.name);
+        TreeView one("tvwMain"), batch("tvwMain");
+        const auto moves = withPair(fillFirstPass(one), 30, c.pair);
+        fillFirstPass(batch);
+
+        const long oneError = raised([&] {
+            for (const auto& move : moves)
+                one.Nodes(move.first).setParent(one.Nodes(move.second));
+        });
+        const long batchError = raised([&] { batch.Nodes.MoveAll(moves); });
+
+        EXPECT_EQ(oneError, c.error);
+        EXPECT_EQ(batchError, c.error);
+        EXPECT_EQ(shape(batch), shape(one));
+        EXPECT_EQ(batch.Nodes(moves.at(29).first).Parent().Key(), moves.at(29).second);
+        int later = 31;
+        while (moves.at(later).second == "ROOT")
+            ++later;
+        EXPECT_EQ(batch.Nodes(moves.at(later).first).Parent().Key(), "ROOT");
+    }
+}
+
 TEST_F(TreeViewTest, ParentMoveCarriesTheWholeSubtreeWithItsState) {
     Node a = tree.Nodes.Add("ROOT", tvwChild, "A", "Folder A", "ClosedFolder");
     Node b = tree.Nodes.Add("ROOT", tvwChild, "B", "Folder B", "ClosedFolder");
@@ -204,6 +348,28 @@ TEST_F(TreeViewTest, SortedOrdersChildrenByTextIgnoringCaseNowAndLater) {
     // Collection order stays the order of adding.
     EXPECT_EQ(keysInOrder(tree),
               QStringList({"ROOT", "F", "k1", "k2", "k3", "G", "g1", "g2", "k4"}));
+}
+
+TEST_F(TreeViewTest, SortingKeepsExpandedNodesAndTheSelectionWhereTheyAre) {
+    Node b = tree.Nodes.Add("ROOT", tvwChild, "B", "beta");
+    Node a = tree.Nodes.Add("ROOT", tvwChild, "A", "alpha");
+    Node b1 = tree.Nodes.Add("B", tvwChild, "B1", "b1");
+    tree.Nodes.Add("B1", tvwChild, "B1x", "leaf");
+    root.setExpanded(true);
+    b.setExpanded(true);
+    b1.setExpanded(true);
+    tree.setSelectedItem(b1);
+    QStringList events;
+    tree.Collapse = [&](Node n) { events << n.Key(); };
+
+    root.setSorted(true);
+
+    EXPECT_EQ(childTexts(root), QStringList({"alpha", "beta"}));
+    EXPECT_TRUE(b.Expanded());
+    EXPECT_TRUE(b1.Expanded());
+    EXPECT_FALSE(a.Expanded());
+    EXPECT_EQ(tree.SelectedItem(), b1);
+    EXPECT_TRUE(events.isEmpty());
 }
 
 TEST_F(TreeViewTest, SortedSetBeforeAddingKeepsMembersInOrder) {
