@@ -134,12 +134,15 @@ QString toolPath(const QString& name) {
     return QStandardPaths::findExecutable(name);
 }
 
-QByteArray runTool(const QString& program, const QStringList& args, int* exitCode) {
+QByteArray runTool(const QString& program, const QStringList& args, int* exitCode,
+                   QByteArray* errors) {
     QProcess process;
     process.start(program, args);
     process.waitForFinished(60000);
     if (exitCode)
         *exitCode = process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
+    if (errors)
+        *errors = process.readAllStandardError();
     return process.readAllStandardOutput();
 }
 
@@ -156,6 +159,14 @@ QByteArray fileBytes(const QString& path) {
 
 QString folded(const QString& text) {
     return text.simplified();
+}
+
+QString unspaced(const QString& text) {
+    QString out;
+    for (const QChar c : text)
+        if (!c.isSpace())
+            out += c;
+    return out;
 }
 
 } // namespace qs::test

@@ -57,12 +57,15 @@ protected:
 
 // The path of an installed tool; empty when it is not installed.
 QString toolPath(const QString& name);
-// Runs a tool; its standard output, and its exit code in `exitCode`.
-QByteArray runTool(const QString& program, const QStringList& args, int* exitCode = nullptr);
+// Runs a tool; its standard output, its exit code in `exitCode` and what it wrote to its error
+// channel in `errors`.
+QByteArray runTool(const QString& program, const QStringList& args, int* exitCode = nullptr,
+                   QByteArray* errors = nullptr);
 // The text of a PDF by pdftotext.
 QString pdfText(const QString& path);
 QByteArray fileBytes(const QString& path);
-// Blanks, tabs, line ends and no-break spaces folded to single blanks.
+// Blanks, tabs, line ends and no-break spaces folded to single blanks, or left out.
 QString folded(const QString& text);
+QString unspaced(const QString& text);
 
 } // namespace qs::test
