@@ -35,7 +35,7 @@ class Toolbar;
 class TreeView;
 class cSourceCode;
 class cSourceFile;
-struct FileExport;
+struct FileExportKind;
 
 // The main window: category tree, item tree, bookmarks and search on the left, the panes of the
 // selected item on the right, the menu bar and the tool bar.  Its members are defined in the
@@ -326,7 +326,7 @@ private:
     void ApplyAccessLevel();
     void connectOutput();
     // The RTF, text and PDF exports: the copy dialog under the export's caption, then the file.
-    void exportThroughCopyDialog(const FileExport& kind);
+    void exportThroughCopyDialog(const FileExportKind& kind);
 
     // Helpers of the trees and the routing.
     void setButton(const char* key, bool on);

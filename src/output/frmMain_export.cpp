@@ -27,7 +27,7 @@ const QString kNoCodeForHtml = QStringLiteral("No code in the ''Code Window'' to
 } // namespace
 
 // One row of the file exports that share the copy dialog.
-struct FileExport {
+struct FileExportKind {
     enum Writer { Rtf, Text, Pdf };
     const char* literal; // the handler's failure literal
     const char* caption;
@@ -40,30 +40,30 @@ struct FileExport {
 };
 
 namespace {
-const FileExport kRtfExport = {"frmMain:mnuRTF_Click;",
-                               "Export to RTF File",
-                               "Save RTF File",
-                               "RTF Files (*.rtf)|*.rtf",
-                               ".rtf",
-                               "Launch RTF File?",
-                               "Do you want to launch your rtf file?",
-                               FileExport::Rtf};
-const FileExport kTextExport = {"frmMain:mnuTextFile_Click;",
-                                "Export to Text File",
-                                "Save Text File",
-                                "Text Files (*.txt)|*.txt",
-                                ".txt",
-                                "Launch Text File?",
-                                "Do you want to launch your text file?",
-                                FileExport::Text};
-const FileExport kPdfExport = {"frmMain:mnuPDF_Click;",
-                               "Export to PDF File",
-                               "Save PDF File",
-                               "PDF Files (*.pdf)|*.pdf",
-                               ".pdf",
-                               "Launch PDF File?",
-                               "Do you want to launch your pdf file?",
-                               FileExport::Pdf};
+const FileExportKind kRtfExport = {"frmMain:mnuRTF_Click;",
+                                   "Export to RTF File",
+                                   "Save RTF File",
+                                   "RTF Files (*.rtf)|*.rtf",
+                                   ".rtf",
+                                   "Launch RTF File?",
+                                   "Do you want to launch your rtf file?",
+                                   FileExportKind::Rtf};
+const FileExportKind kTextExport = {"frmMain:mnuTextFile_Click;",
+                                    "Export to Text File",
+                                    "Save Text File",
+                                    "Text Files (*.txt)|*.txt",
+                                    ".txt",
+                                    "Launch Text File?",
+                                    "Do you want to launch your text file?",
+                                    FileExportKind::Text};
+const FileExportKind kPdfExport = {"frmMain:mnuPDF_Click;",
+                                   "Export to PDF File",
+                                   "Save PDF File",
+                                   "PDF Files (*.pdf)|*.pdf",
+                                   ".pdf",
+                                   "Launch PDF File?",
+                                   "Do you want to launch your pdf file?",
+                                   FileExportKind::Pdf};
 
 // Unloads a dialog unless it unloaded itself, and is maybe gone already, on the way out.
 template <class Form> void release(const QPointer<Form>& dialog) {
@@ -158,7 +158,7 @@ void frmMain::mnuPDF_Click() {
     exportThroughCopyDialog(kPdfExport);
 }
 
-void frmMain::exportThroughCopyDialog(const FileExport& kind) {
+void frmMain::exportThroughCopyDialog(const FileExportKind& kind) {
     try {
         setEnabled(false);
         // All three carry the wording of the HTML command.
@@ -188,15 +188,15 @@ void frmMain::exportThroughCopyDialog(const FileExport& kind) {
                 if (path.right(4) != ending)
                     path += ending;
                 switch (kind.writer) {
-                case FileExport::Rtf:
+                case FileExportKind::Rtf:
                     RichTextBoxHold->setText(QString());
                     RichTextBoxHold->setText(gstrExportText);
                     RichTextBoxHold->SaveFile(path, rtfRTF);
                     break;
-                case FileExport::Text:
+                case FileExportKind::Text:
                     exportRecord(mobjSourceCode).ExportText(path, frmCopyDialog::SourceText());
                     break;
-                case FileExport::Pdf:
+                case FileExportKind::Pdf:
                     exportRecord(mobjSourceCode).ExportPdf(path, frmCopyDialog::SourceText());
                     break;
                 }
