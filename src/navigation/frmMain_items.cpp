@@ -117,20 +117,23 @@ void frmMain::FillTreeViewMain(long lngTypeId, long lngCategoryId, const QString
 void frmMain::reparentItems() {
     // Rows come in no useful order, so each node waits under the root until every node exists;
     // its tag then names its parent.  A parent that is not among the rows raises the lookup
-    // error.  A node already under its parent stays where it is.
+    // error; the moves before it are made.
     TreeView& tree = *tvwMain;
-    QVector<QPair<Node, Node>> moves;
+    QVector<QPair<QString, QString>> moves;
     moves.reserve(tree.Nodes.Count());
     for (Node node : tree.Nodes) {
         const QString parentKey = ParentKeyOfTag(node.Tag());
-        if (parentKey.isEmpty())
-            continue;
-        Node parent = tree.Nodes(parentKey);
-        if (node.Parent() != parent)
-            moves.append({node, parent});
+        if (!parentKey.isEmpty())
+            moves.append({node.Key(), parentKey});
     }
-    for (auto& move : moves)
-        move.first.setParent(move.second);
+    // The one place the moves are made: a batched move of the tree takes this loop's place.
+    // Until then a node already under its parent (most rows: the top level) stays where it is.
+    for (const auto& move : moves) {
+        Node node = tree.Nodes(move.first);
+        const Node parent = tree.Nodes(move.second);
+        if (node.Parent() != parent)
+            node.setParent(parent);
+    }
 }
 
 void frmMain::setSelectionType(const QString& key, bool codeOnly) {

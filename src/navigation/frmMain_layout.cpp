@@ -215,6 +215,9 @@ void frmMain::buildLayout() {
     split->setStretchFactor(0, 2);
     split->setStretchFactor(1, 3);
     split->setChildrenCollapsible(false);
+    // Both sides share the room the window gains, by the stretch above.
+    left->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    right->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 
     auto* main = new QVBoxLayout(this);
     main->setContentsMargins(4, 0, 4, 0);
