@@ -68,7 +68,6 @@ TEST_F(EditCommands, EachCommandWorksOnTheSelectionOfTheFocusedControlUnlessItsN
         {"Copy across lines of the notes", f.txtNotes, "one\ntwo", 2, 3, menuCopy, "e\r\nt",
          "one\ntwo", ""},
         {"Copy passes over the item tree", f.tvwMain, "", 0, 0, menuCopy, "before", "", ""},
-        {"Copy passes over cboCodeType", f.cboCodeType, "", 0, 0, menuCopy, "before", "", ""},
         {"Copy reaches a list, which has no selection text", f.lvwRevisionHistory, "", 0, 0,
          menuCopy, "", "", "frmCopyDialog:Copy;"},
         {"Cut in the search field", f.txtSearchString, "hello world", 6, 5, [] { Cut(); }, "world",
