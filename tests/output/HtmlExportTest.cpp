@@ -36,11 +36,11 @@ TEST_F(HtmlExport, PageCarriesTheCodeUnderItsHeaderAndAnHtmlParserReadsItBack) {
     selectTheItem();
     struct Case {
         const char* what;
-        bool author, h, g, cr, launch;
+        bool comments, h, g, cr, launch; // comments: the author line and the history block
     };
     const Case cases[] = {
         {"a fragment, the code alone", false, false, false, false, false},
-        {"a page with the author line", true, true, false, false, true},
+        {"a page with the author line and the history", true, true, false, false, true},
         {"a page with generator and line ends", false, true, true, true, false},
     };
     int n = 0;
@@ -50,7 +50,8 @@ TEST_F(HtmlExport, PageCarriesTheCodeUnderItsHeaderAndAnHtmlParserReadsItBack) {
         hostScript.onModal<frmExportToHtmlFile>(QStringLiteral("frmExportToHtmlFile"),
                                                 [&c](frmExportToHtmlFile& d) {
                                                     EXPECT_EQ(d.txtCommentSpec->text(), "'");
-                                                    d.chkAuthor->setChecked(c.author);
+                                                    d.chkAuthor->setChecked(c.comments);
+                                                    d.chkRevisionHistory->setChecked(c.comments);
                                                     d.chkH->setChecked(c.h);
                                                     d.chkG->setChecked(c.g);
                                                     d.chkCR->setChecked(c.cr);
@@ -78,10 +79,14 @@ TEST_F(HtmlExport, PageCarriesTheCodeUnderItsHeaderAndAnHtmlParserReadsItBack) {
                 {QStringLiteral("--html"), QStringLiteral("--noout"), path}, &exitCode, &errors);
         EXPECT_EQ(exitCode, 0);
         EXPECT_EQ(errors.toStdString(), "");
-        // The author line and the code join, with no "Source Code" line.  Line breaks are tags,
-        // which the body's text doesn't show, so the comparison leaves out all white space.
-        const QString header = c.author ? QStringLiteral("' AUTHOR: ADA LOVELACE") : QString();
-        EXPECT_EQ(unspaced(bodyText(path)).toStdString(), unspaced(header + kCode).toStdString());
+        // The author line and the code join, with no "Source Code" line, and the history stands
+        // behind the code.  Line breaks are tags, which the body's text doesn't show, so the
+        // comparison leaves out all white space.
+        const QString header = c.comments ? QStringLiteral("' AUTHOR: ADA LOVELACE") : QString();
+        const QString history =
+            c.comments ? QStringLiteral("' REVISION HISTORY ' =================") : QString();
+        EXPECT_EQ(unspaced(bodyText(path)).toStdString(),
+                  unspaced(header + kCode + history).toStdString());
         EXPECT_TRUE(gstrExportText.isEmpty());
         EXPECT_TRUE(form().isEnabled());
     }
