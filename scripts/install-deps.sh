@@ -6,7 +6,7 @@ packages=(
     build-essential cmake ninja-build pkg-config
     libgtest-dev
     qt6-base-dev libqt6sql6-sqlite libgl-dev
-    poppler-utils
+    poppler-utils libxml2-utils
 )
 [ "${QS_WITH_XVFB:-0}" = 1 ] && packages+=(xvfb x11-apps imagemagick)
 [ "${QS_WITH_FUZZ:-0}" = 1 ] && packages+=(clang libclang-rt-14-dev)

@@ -52,6 +52,9 @@ bool gblnFolderAccepted = false;
 QString gstrInsertChoice;
 bool gblnInsertCancelled = false;
 
+QString gstrExportText;
+bool gblnExportCancelled = false;
+
 void ResetGlobals() {
     gobjCurrentUser.reset();
     gstrUserId.clear();
@@ -94,6 +97,9 @@ void ResetGlobals() {
     gblnFolderAccepted = false;
     gstrInsertChoice.clear();
     gblnInsertCancelled = false;
+
+    gstrExportText.clear();
+    gblnExportCancelled = false;
 }
 
 } // namespace qs

@@ -63,6 +63,12 @@ extern bool gblnFolderAccepted;
 extern QString gstrInsertChoice;
 extern bool gblnInsertCancelled;
 
+// ---- Output ----
+// The header-and-code text that frmCopyDialog and frmExportToHtmlFile build (their SourceText),
+// and the flag frmCopyDialog's Cancel raises; each file export lowers it at its end.
+extern QString gstrExportText;
+extern bool gblnExportCancelled;
+
 // Puts every global above back to its value at process start (tests call it between cases).
 void ResetGlobals();
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "CommonDialog.h"
 #include "FormBase.h"
 #include "ItemRow.h"
 #include "LookupRow.h"
@@ -34,6 +35,7 @@ class Toolbar;
 class TreeView;
 class cSourceCode;
 class cSourceFile;
+struct FileExportKind;
 
 // The main window: category tree, item tree, bookmarks and search on the left, the panes of the
 // selected item on the right, the menu bar and the tool bar.  Its members are defined in the
@@ -253,6 +255,18 @@ public:
     // Shows the sub-menu of `menu` at the pointer and returns when it closes.
     void PopupMenu(QAction* menu);
 
+    // ---- Output: the exports, the clipboard and printing ----
+    void mnuHtml_Click();
+    void mnuXml_Click();
+    void mnuRTF_Click();
+    void mnuTextFile_Click();
+    void mnuPDF_Click();
+    void mnuCopy_Click();
+    void mnuSelectAll_Click();
+    void AdvancedCopy();
+    void subPrint();
+    CommonDialog CommonDialog1; // the printer dialog of subPrint
+
     // ---- Window members ----
     int mintDragFormat = 0;         // clipboard format "Tarnwick" of the node drag
     QString mstrActiveTree;         // "Cats", "Main" or "BookMarks"
@@ -310,6 +324,9 @@ private:
     void clearSourceFileFields(bool withVerInfo);
     // Hides the commands that change anything from a user who is not an administrator.
     void ApplyAccessLevel();
+    void connectOutput();
+    // The RTF, text and PDF exports: the copy dialog under the export's caption, then the file.
+    void exportThroughCopyDialog(const FileExportKind& kind);
 
     // Helpers of the trees and the routing.
     void setButton(const char* key, bool on);

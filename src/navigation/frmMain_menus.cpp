@@ -133,6 +133,7 @@ void frmMain::connectMenus() {
              [this, member = r.member] { (this->*member)(); });
     Wire(this, tbToolBar->ButtonClick, "tbToolBar_ButtonClick",
          [this](Button& button) { tbToolBar_ButtonClick(button); });
+    connectOutput();
 }
 
 void frmMain::connectTrees() {

@@ -6,6 +6,7 @@
 #include "ImageList.h"
 #include "SSTab.h"
 #include "Toolbar.h"
+#include "mEditCommands.h"
 #include "mErrorHandling.h"
 
 #include <QHash>
@@ -48,8 +49,10 @@ using Command = void (*)(frmMain&);
 const QHash<QString, Command>& toolBarCommands() {
     static const QHash<QString, Command> commands = {
         {QStringLiteral("Add Item"), [](frmMain& f) { f.AddItemCommand(); }},
+        {QStringLiteral("AdvCopy"), [](frmMain& f) { f.AdvancedCopy(); }},
         {QStringLiteral("Back"), [](frmMain& f) { f.stepInTree(false); }},
         {QStringLiteral("BookMarks"), [](frmMain& f) { f.SSTabNavigate->setTab(1); }},
+        {QStringLiteral("Copy"), [](frmMain&) { Copy(); }},
         {QStringLiteral("DeleteNode"), [](frmMain& f) { f.DeleteNodeCommand(); }},
         {QStringLiteral("Forward"), [](frmMain& f) { f.stepInTree(true); }},
         {QStringLiteral("Open DataBase"),
@@ -57,6 +60,7 @@ const QHash<QString, Command>& toolBarCommands() {
              f.SSTabNavigate->setTab(0);
              f.SelectDataBase();
          }},
+        {QStringLiteral("Print"), [](frmMain& f) { f.subPrint(); }},
     };
     return commands;
 }

@@ -52,6 +52,7 @@ void CommonDialog::ShowPrinter() {
     }
     Copies = choice.copies;
     PrinterName = choice.printerName;
+    PrinterOutputFile = choice.outputFile;
 }
 
 } // namespace qs

@@ -37,6 +37,7 @@ public:
     int Copies = 1;
     bool PrinterDefault = true;
     QString PrinterName;
+    QString PrinterOutputFile; // the PDF file the printer dialog chose to print into, or empty
 
     // Each sets FileName (and FileTitle) to the choice.  On Cancel they raise cdlCancel
     // "Cancel was selected." when CancelError is on and otherwise leave FileName as it was.

@@ -52,11 +52,13 @@ struct FileDialogRequest {
     bool mustExist = false;
 };
 
-// What the printer dialog gives back; `accepted` false on Cancel.
+// What the printer dialog gives back; `accepted` false on Cancel.  `outputFile` is set when the
+// person chose to print to a (PDF) file instead of a printer.
 struct PrinterChoice {
     bool accepted = false;
     QString printerName;
     int copies = 1;
+    QString outputFile;
 };
 
 // What a scripted End throws in tests, so that the flow stops there as the real End stops the
@@ -95,7 +97,8 @@ public:
     virtual bool showHelp(const QString& helpFile, int command, long context) = 0;
 
     virtual PrinterChoice printerDialog(int copies) = 0;
-    // Prints plain text on the chosen printer; returns false when nothing could be printed.
+    // Prints plain text as one document on the chosen printer (or into its output file); returns
+    // false when nothing could be printed.
     virtual bool printText(const PrinterChoice& printer, const QString& documentName,
                            const QString& text) = 0;
 

@@ -350,14 +350,25 @@ PrinterChoice QtHost::printerDialog(int copies) {
     choice.accepted = true;
     choice.printerName = printer.printerName();
     choice.copies = printer.copyCount();
+    if (printer.outputFormat() == QPrinter::PdfFormat)
+        choice.outputFile = printer.outputFileName();
     return choice;
 }
 
 bool QtHost::printText(const PrinterChoice& printer, const QString& documentName,
                        const QString& text) {
+    return printDocument(printer, documentName, text);
+}
+
+bool QtHost::printDocument(const PrinterChoice& printer, const QString& documentName,
+                           const QString& text) {
     QPrinter device;
-    if (!printer.printerName.isEmpty())
+    if (!printer.outputFile.isEmpty()) {
+        device.setOutputFormat(QPrinter::PdfFormat);
+        device.setOutputFileName(printer.outputFile);
+    } else if (!printer.printerName.isEmpty()) {
         device.setPrinterName(printer.printerName);
+    }
     device.setCopyCount(qMax(1, printer.copies));
     device.setDocName(documentName);
     if (!device.isValid())

@@ -40,6 +40,10 @@ public:
     PrinterChoice printerDialog(int copies) override;
     bool printText(const PrinterChoice& printer, const QString& documentName,
                    const QString& text) override;
+    // The printing of printText: plain text in the application font, paginated by the page; a
+    // choice with an output file prints into that file as PDF.
+    static bool printDocument(const PrinterChoice& printer, const QString& documentName,
+                              const QString& text);
 
     void setMousePointer(int pointer) override;
     int mousePointer() const override;

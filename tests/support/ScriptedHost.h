@@ -52,8 +52,10 @@ public:
     void answerInputBox(const QString& text);
     // The next open or save dialog returns `path` (empty = Cancel).
     void answerFileDialog(const QString& path);
-    // The next printer dialog.
-    void answerPrinter(bool accepted, const QString& printerName = QString(), int copies = 1);
+    // The next printer dialog.  With an output file, the prints that follow run the real print
+    // path of the program into that PDF file.
+    void answerPrinter(bool accepted, const QString& printerName = QString(), int copies = 1,
+                       const QString& outputFile = QString());
     // Runs `handler` each time the form of that name is shown modally.  The form is shown (so
     // Form_Activate runs), the handler fills controls and clicks buttons; when it returns the
     // form must be hidden or unloaded, and the modal show returns.
