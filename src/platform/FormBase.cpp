@@ -73,14 +73,22 @@ bool FormBase::Unload() {
     return true;
 }
 
+void FormBase::runExitCommand() {
+    const ExitCommand command = exitCommand();
+    if (command.run)
+        RunHandler(this, command.handler, command.run);
+    else
+        RunHandler(this, "Form_Unload", [this] { Unload(); });
+}
+
 void FormBase::closeEvent(QCloseEvent* event) {
-    if (mUnloading) {
+    if (mUnloading || !mLoaded) {
         event->accept();
         return;
     }
-    bool unloaded = false;
-    RunHandler(this, "Form_Unload", [&] { unloaded = Unload(); });
-    if (unloaded)
+    runExitCommand();
+    // The window goes only if the command unloaded it.
+    if (mUnloading)
         event->accept();
     else
         event->ignore();
@@ -92,8 +100,9 @@ void FormBase::showEvent(QShowEvent* event) {
 }
 
 void FormBase::reject() {
-    // Escape closes the window the way its close box does.
-    close();
+    // Escape is no close command in a window without an exit or cancel command.
+    if (exitCommand().run)
+        runExitCommand();
 }
 
 FormBase* Forms::findByName(const QString& name) {

@@ -9,6 +9,12 @@ namespace qs {
 // Show modes.
 enum FormShowMode : int { vbModeless = 0, vbModal = 1 };
 
+// A form's own exit or cancel command: the name it reports failures under, and the member.
+struct ExitCommand {
+    const char* handler = nullptr;
+    std::function<void()> run;
+};
+
 // A window of the system.  Its object name is its design name ("frmMain"), and it lives in the
 // process-wide collection of loaded forms from its load to its unload, like the forms of the
 // original design: `Forms::get<frmLogin>()` loads the form on first use.
@@ -41,14 +47,20 @@ protected:
     virtual void Form_Load() {}
     virtual void Form_Activate() {}
     virtual void Form_Unload(int& cancel) { (void)cancel; }
+    // The command that Escape and the close box both run, through the handler boundary: the
+    // form's own exit or cancel command, which decides whether the window goes (it may ask
+    // first, and stay on No).  A form without one ignores Escape, and its close box unloads it.
+    virtual ExitCommand exitCommand() { return {}; }
 
     void closeEvent(QCloseEvent* event) override;
     void showEvent(QShowEvent* event) override;
+    // Escape, as the dialog base class delivers it.
     void reject() override;
 
 private:
     friend class Forms;
     void load();
+    void runExitCommand();
     bool mLoaded = false;
     bool mUnloading = false;
 };
