@@ -2,6 +2,7 @@
 
 #include <QDialog>
 #include <QList>
+#include <QPointer>
 #include <functional>
 
 namespace qs {
@@ -91,7 +92,9 @@ public:
     static void setOnEmpty(std::function<void()> callback);
 
     // Marks code that runs a nested event loop (DoEvents, a modal show): the program does not end
-    // under it, since the handler that yields is still running.
+    // under it, since the handler that yields is still running, and a form unloaded meanwhile is
+    // destroyed only once the outermost yield is over, so the handlers below still reach it and
+    // find it unloaded.
     class YieldScope {
     public:
         YieldScope();
@@ -108,5 +111,11 @@ private:
     static void remove(FormBase* form);
     static void scheduleEmptyCheck(int delayMs);
 };
+
+// After a yield: true when the form still stands and is loaded.  A handler that yields holds its
+// form in a QPointer and leaves quietly when this is false.
+template <class T> bool StillLoaded(const QPointer<T>& form) {
+    return form && form->IsLoaded();
+}
 
 } // namespace qs

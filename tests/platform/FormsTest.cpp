@@ -4,6 +4,7 @@
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QLineEdit>
+#include <QTimer>
 #include <gtest/gtest.h>
 
 using qs::FormBase;
@@ -138,4 +139,20 @@ TEST_F(FormsCollection, EscapeAndTheCloseBoxRunTheExitCommandWhichDecidesWhether
     EXPECT_EQ(Forms::find<frmTwo>(), &two);
     EXPECT_TRUE(qs::test::leave(two, Leave::CloseBox, nullptr, nullptr));
     EXPECT_EQ(Forms::find<frmTwo>(), nullptr);
+}
+
+TEST_F(FormsCollection, FormUnloadedWhileAHandlerYieldsOutlivesTheYieldAndIsNotShownAgain) {
+    QPointer<frmOne> one(&Forms::get<frmOne>());
+    {
+        const Forms::YieldScope yielding;
+        QTimer::singleShot(0, [&one] { one->Unload(); });
+        spin(30);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        ASSERT_FALSE(one.isNull()) << "destroyed under the handler that yielded";
+        EXPECT_FALSE(one->IsLoaded());
+        one->Show();
+        EXPECT_FALSE(one->isVisible());
+    }
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_TRUE(one.isNull());
 }

@@ -1,5 +1,6 @@
 #include "ScriptedHost.h"
 
+#include <QCoreApplication>
 #include <QPointer>
 #include <gtest/gtest.h>
 
@@ -301,6 +302,10 @@ bool ScriptedHost::previousInstance() {
 
 void ScriptedHost::doEvents() {
     ++mDoEvents;
+    if (!mRunEventsAtYields)
+        return;
+    const Forms::YieldScope yielding;
+    QCoreApplication::processEvents();
 }
 
 void ScriptedHost::endProcess() {
