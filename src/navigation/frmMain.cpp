@@ -70,7 +70,13 @@ void frmMain::Form_Load() {
         gblnCodeView = true;
         mstrFirstCategoryClick = QStringLiteral("Yes");
         mstrFirstMainClick = QStringLiteral("Yes");
+        // StartUp yields; an event run meanwhile may close this window.
+        const QPointer<frmMain> self(this);
         StartUp();
+        if (!StillLoaded(self)) {
+            host().setMousePointer(vbDefault);
+            return;
+        }
         InitControls();
         CenterOnScreen();
         if (gstrAccessType != QLatin1String("Admin"))
@@ -99,7 +105,7 @@ void frmMain::ApplyAccessLevel() {
 
 void frmMain::StartUp() {
     try {
-        gobjLibrary = std::make_unique<cLibraryService>();
+        NewLibrary();
         mblnViewBookMarks =
             GetRegSetting(QString::fromLatin1(REG_KEY_TOOLBARSETTINGS),
                           QString::fromLatin1(REG_VAL_VIEWBOOKMARKS), REG_DEF_VIEWBOOKMARKS)
@@ -115,10 +121,16 @@ void frmMain::StartUp() {
         mstrLastCodeTypeMain = mstrLastCodeType;
         cboTestedOrUntested->AddItem(QStringLiteral("Tested"));
         cboTestedOrUntested->AddItem(QStringLiteral("Untested"));
+        // Each fill yields; the window may be closed meanwhile, and then StartUp leaves.
+        const QPointer<frmMain> self(this);
         FillComboBox(QStringLiteral("FileType"), cboCodeType, false, false, true, QString(), true,
                      true);
+        if (!StillLoaded(self))
+            return;
         FillComboBox(QStringLiteral("CodeType"), cboCodeType, false, false, true, QString(), true,
                      false);
+        if (!StillLoaded(self))
+            return;
         FillComboBox(QStringLiteral("Category"), cboCategory, false, false, true, QString(), true,
                      true);
     } catch (...) {
@@ -179,7 +191,12 @@ void frmMain::mnuUser_Click() {
     try {
         host().setMousePointer(vbHourglass);
         Hide();
+        const QPointer<frmMain> self(this);
         Forms::get<frmUser>().Show(vbModal);
+        if (!StillLoaded(self)) {
+            host().setMousePointer(vbDefault);
+            return;
+        }
         Show(vbModeless);
         host().setMousePointer(vbDefault);
     } catch (...) {
@@ -212,12 +229,15 @@ void frmMain::mnuHelpSearch_Click() {
 }
 
 void frmMain::mnuAboutApp_Click() {
+    const QPointer<frmMain> self(this);
     try {
         setEnabled(false);
         Forms::get<frmAbout>().Show(vbModal);
-        setEnabled(true);
+        if (self)
+            setEnabled(true);
     } catch (...) {
-        setEnabled(true);
+        if (self)
+            setEnabled(true);
         HandleFailure("frmMain:mnuAboutApp_Click;");
     }
 }

@@ -1,4 +1,4 @@
-// Leaving the main window.
+// Leaving the main window, and events that close it while one of its handlers yields.
 
 #include "HostFixture.h"
 
@@ -19,6 +19,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
+#include <QTimer>
 
 using namespace qs;
 using namespace qs::test;
@@ -60,6 +61,29 @@ protected:
         login.txtPassword->setText(QStringLiteral("secret"));
         login.cmdOk->click();
     }
+
+    // At the next yield, the main window's close box is pressed.
+    void closeMainAtTheNextYield() {
+        hostScript.runEventsAtYields(true);
+        QTimer::singleShot(0, qApp, [] {
+            if (frmMain* main = Forms::find<frmMain>()) {
+                QCloseEvent event;
+                QApplication::sendEvent(main, &event);
+            }
+        });
+    }
+
+    // The login still stands and nothing was reported.
+    void expectTheLoginStandsAlone() {
+        EXPECT_GE(hostScript.doEventsCount(), 1);
+        EXPECT_EQ(Forms::find<frmMain>(), nullptr);
+        EXPECT_FALSE(gobjLibrary) << "a service object was left behind";
+        frmLogin* login = Forms::find<frmLogin>();
+        ASSERT_NE(login, nullptr);
+        EXPECT_TRUE(login->isVisible());
+        EXPECT_TRUE(hostScript.msgBoxes().isEmpty()) << hostScript.log().toStdString();
+        EXPECT_EQ(hostScript.mousePointer(), vbDefault);
+    }
 };
 
 TEST_F(MainExit, EscapeInATreeOrTheSearchBoxLeavesTheWindowAsItIs) {
@@ -96,6 +120,28 @@ TEST_F(MainExit, CloseBoxUnloadsTheWindowAndTheProgramEndsWithNoWindowLeft) {
     while (ends == 0 && waited.elapsed() < 500)
         QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
     EXPECT_EQ(ends, 1);
+}
+
+// ---------------------------------------------------------------------------------------------
+// The main window closed while one of its handlers yields.
+
+using MainReentry = MainExit;
+
+TEST_F(MainReentry, WindowClosedWhileItsLoadYieldsLeavesTheLoginQuietly) {
+    closeMainAtTheNextYield();
+    logIn();
+    expectTheLoginStandsAlone();
+}
+
+TEST_F(MainReentry, WindowClosedWhileALoginToAnotherDatabaseStartsItAgainLeavesTheLoginQuietly) {
+    logIn();
+    ASSERT_NE(Forms::find<frmMain>(), nullptr);
+    gblnSwitchingDatabase = true;
+    Forms::find<frmMain>()->Hide();
+    hostScript.clearCalls();
+    closeMainAtTheNextYield();
+    logIn();
+    expectTheLoginStandsAlone();
 }
 
 } // namespace
