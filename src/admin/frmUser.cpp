@@ -62,9 +62,15 @@ QString frmUser::actingUserId() const {
 void frmUser::Form_Load() {
     try {
         CenterOnScreen();
-        gobjLibrary = std::make_shared<cLibraryService>();
+        NewLibrary();
+        // The fills yield; the window may be closed meanwhile, and then the load stops.
+        const QPointer<frmUser> self(this);
         PopulateUserCbo();
+        if (!StillLoaded(self))
+            return;
         FillComboBox(QStringLiteral("AccessType"), cboAccessType);
+        if (!StillLoaded(self))
+            return;
         cboSearchByItemData(*cboAccessType, gintAccessLevel);
         SetUserMode(ModeView);
         cboSearchWithString(*cboUsers, UserEntry(gstrFirstName, gstrLastName, gstrUserId));
@@ -89,7 +95,10 @@ void frmUser::Form_Unload(int& cancel) {
 
 void frmUser::PopulateUserCbo(bool blnSelectFirst) {
     try {
+        const QPointer<frmUser> self(this);
         FillComboBox(QStringLiteral("Users"), cboUsers);
+        if (!StillLoaded(self))
+            return;
         if (blnSelectFirst && cboUsers->ListCount() > 0)
             cboUsers->setListIndex(0);
     } catch (...) {
@@ -277,10 +286,15 @@ void frmUser::cmdUserDelete_Click() {
 
 void frmUser::cmdUserCancel_Click() {
     try {
-        if (mintMode == ModeAdd)
+        if (mintMode == ModeAdd) {
+            // The refill yields; the window may be closed meanwhile.
+            const QPointer<frmUser> self(this);
             PopulateUserCbo();
-        else if (mintMode == ModeEdit)
+            if (!StillLoaded(self))
+                return;
+        } else if (mintMode == ModeEdit) {
             FillUserFields();
+        }
         SetUserMode(ModeView);
     } catch (...) {
         HandleFailure("frmAuthorUser:cmdUserCancel_Click;");

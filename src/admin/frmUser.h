@@ -69,6 +69,10 @@ protected:
     void Form_Load() override;
     void Form_Activate() override;
     void Form_Unload(int& cancel) override;
+    // The first-user form asks before the program ends.
+    ExitCommand exitCommand() override {
+        return {"cmdExit_Click", [this] { cmdExit_Click(); }};
+    }
 
 private:
     void buildLayout();

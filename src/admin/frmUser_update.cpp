@@ -135,7 +135,10 @@ void frmUser::cmdUserUpdate_Click() {
         }
 
         mstrUserId.clear();
+        const QPointer<frmUser> self(this);
         PopulateUserCbo();
+        if (!StillLoaded(self))
+            return;
         if (gobjCurrentUser) {
             cboUsers->setVisible(true);
             const QString entry = txtUserFName->text() + QLatin1Char(' ') + txtUserLName->text() +

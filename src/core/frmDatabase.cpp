@@ -190,8 +190,14 @@ void frmDatabase::NewDatabase() {
         SaveDatabaseSetting(REG_VAL_DATABASE_PATH, mstrDatabasePath);
         SaveDatabaseSetting(REG_VAL_DATABASE_FILENAME, WithMdb(file.fileName()));
 
-        gobjLibrary = std::make_shared<cLibraryService>();
+        // The service is held across the yield; the dialog leaves if it went meanwhile.
+        const QPointer<frmDatabase> self(this);
+        const auto library = NewLibrary();
         host().doEvents();
+        if (!StillLoaded(self)) {
+            host().setMousePointer(vbDefault);
+            return;
+        }
 
         const QString databasePath = WithMdb(chosen);
         // Here the settings file is the one in the program's own folder, whatever
@@ -200,12 +206,20 @@ void frmDatabase::NewDatabase() {
                                      kPathSeparator + QStringLiteral("Quillstone.ini");
 
         if (!FileExists(databasePath)) {
-            gobjLibrary->CreateDatabase(databasePath, settingsFile);
+            library->CreateDatabase(databasePath, settingsFile);
             host().msgBox(QStringLiteral("Please add the first user"), vbInformation, QString());
             gblnFirstUser = true;
-            frmUser& user = Forms::get<frmUser>();
-            user.cmdUserAdd_Click();
-            user.Show(vbModal);
+            const QPointer<frmUser> user(&Forms::get<frmUser>());
+            if (!StillLoaded(user) || !StillLoaded(self)) {
+                host().setMousePointer(vbDefault);
+                return;
+            }
+            user->cmdUserAdd_Click();
+            user->Show(vbModal);
+            if (!StillLoaded(self)) {
+                host().setMousePointer(vbDefault);
+                return;
+            }
             if (!gblnFirstUserCancelled) {
                 host().setMousePointer(vbDefault);
                 ShowLoginForChosenDatabase(*this);

@@ -36,6 +36,9 @@ public:
 
 protected:
     void Form_Load() override;
+    ExitCommand exitCommand() override {
+        return {"cmdExit_Click", [this] { cmdExit_Click(); }};
+    }
 
 private:
     void buildLayout();

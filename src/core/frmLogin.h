@@ -56,6 +56,10 @@ public:
 protected:
     void Form_Load() override;
     void Form_Activate() override;
+    // Escape and the close box: Exit, or Cancel during a login to another database.
+    ExitCommand exitCommand() override {
+        return {"cmdExit_Click", [this] { cmdExit_Click(); }};
+    }
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:

@@ -106,18 +106,34 @@ void frmLogin::cmdOk_Click() {
 
         mblnValidUser = true;
 
+        // Loading and starting frmMain yield: an event run meanwhile may close the main window
+        // or this one, and then the login leaves quietly.
+        const QPointer<frmLogin> self(this);
+        QPointer<frmMain> main;
+        const auto gone = [&self, &main] {
+            if (StillLoaded(main) && StillLoaded(self))
+                return false;
+            host().setMousePointer(vbDefault);
+            return true;
+        };
         if (gblnSwitchingDatabase) {
-            frmMain& main = Forms::get<frmMain>();
-            main.Show(vbModeless);
-            main.ClearAllControls();
-            main.ClearControlsSourceFileTab();
-            main.StartUp();
+            main = &Forms::get<frmMain>();
+            if (gone())
+                return;
+            main->Show(vbModeless);
+            main->ClearAllControls();
+            main->ClearControlsSourceFileTab();
+            main->StartUp();
+            if (gone())
+                return;
         }
 
         host().setMousePointer(vbHourglass);
-        frmMain& main = Forms::get<frmMain>();
-        main.Show(vbModeless);
-        RestoreSearchSettings(main);
+        main = &Forms::get<frmMain>();
+        if (gone())
+            return;
+        main->Show(vbModeless);
+        RestoreSearchSettings(*main);
         // The pointer is left to frmMain.
         Unload();
     } catch (...) {

@@ -21,6 +21,7 @@
 #include "mRegistry.h"
 
 #include <QLineEdit>
+#include <QPointer>
 #include <QRadioButton>
 
 namespace qs {
@@ -128,7 +129,7 @@ void Main() {
             return;
         }
 
-        gobjLibrary = std::make_shared<cLibraryService>();
+        NewLibrary();
         gstrSettingsFile = SettingsFilePath();
 
         if (!UsersExist()) {
@@ -139,17 +140,18 @@ void Main() {
                 return;
         }
 
-        frmLogin& login = Forms::get<frmLogin>();
+        const QPointer<frmLogin> login(&Forms::get<frmLogin>());
         if (gblnFirstUser) {
-            login.txtUserId->setText(gstrFirstUserId);
-            login.txtPassword->setText(gstrFirstUserPassword);
+            login->txtUserId->setText(gstrFirstUserId);
+            login->txtPassword->setText(gstrFirstUserPassword);
         }
-        login.Show(vbModeless);
+        login->Show(vbModeless);
         host().doEvents();
 
         // The login has not been answered yet, so this stays False and Main ends
-        // here; the login's own handler restores the search choices.
-        if (login.ValidUser())
+        // here; the login's own handler restores the search choices.  A login answered
+        // during the yield has gone already.
+        if (StillLoaded(login) && login->ValidUser())
             RestoreSearchSettings(Forms::get<frmMain>());
     } catch (...) {
         HandleFailure("quillstone_private;Main;", FailureTail::ClearError);
@@ -207,11 +209,18 @@ void FillComboBox(const QString& strTable, ComboBox* cboCombo, bool blnShowField
     try {
         if (blnClearFirst)
             cboCombo->Clear();
-        gobjLibrary = std::make_shared<cLibraryService>();
+        // The yield may run an event that unloads the combo's form and releases gobjLibrary;
+        // the fill then uses its own hold, and leaves if the form went.
+        const QPointer<ComboBox> combo(cboCombo);
+        const QPointer<FormBase> form(qobject_cast<FormBase*>(cboCombo->window()));
+        const bool onForm = form;
+        const auto library = NewLibrary();
         host().doEvents();
+        if (!combo || (onForm && !StillLoaded(form)))
+            return;
 
         if (strTable == QLatin1String("Authors")) {
-            const auto rows = gobjLibrary->GetAuthors(false);
+            const auto rows = library->GetAuthors(false);
             for (const auto& row : rows) {
                 cboCombo->AddItem(row.FirstName + QLatin1Char(' ') + row.LastName);
                 if (blnSetItemData)
@@ -220,14 +229,14 @@ void FillComboBox(const QString& strTable, ComboBox* cboCombo, bool blnShowField
             return;
         }
         if (strTable == QLatin1String("Users")) {
-            const auto rows = gobjLibrary->GetUsers(false);
+            const auto rows = library->GetUsers(false);
             for (const auto& row : rows)
                 cboCombo->AddItem(row.FirstName + QLatin1Char(' ') + row.LastName +
                                   QLatin1String("  (") + row.UserId + QLatin1Char(')'));
             return;
         }
 
-        const auto rows = gobjLibrary->GetLookup(strTable, varCriteria, true, blnSetItemData);
+        const auto rows = library->GetLookup(strTable, varCriteria, true, blnSetItemData);
         const bool accessType = strTable == QLatin1String("AccessType");
         for (const auto& row : rows) {
             QString text;

@@ -72,7 +72,13 @@ void frmMain::Form_Load() {
         gblnCodeView = true;
         mstrFirstCategoryClick = QStringLiteral("Yes");
         mstrFirstMainClick = QStringLiteral("Yes");
+        // StartUp yields; an event run meanwhile may close this window.
+        const QPointer<frmMain> self(this);
         StartUp();
+        if (!StillLoaded(self)) {
+            host().setMousePointer(vbDefault);
+            return;
+        }
         SettingCategory();
         InitControls();
         CenterOnScreen();
@@ -122,12 +128,20 @@ void frmMain::StartUp() {
         mstrLastCodeTypeMain = mstrLastCodeType;
         cboTestedOrUntested->AddItem(QStringLiteral("Tested"));
         cboTestedOrUntested->AddItem(QStringLiteral("Untested"));
+        // Each fill yields; the window may be closed meanwhile, and then StartUp leaves.
+        const QPointer<frmMain> self(this);
         FillComboBox(QStringLiteral("FileType"), cboCodeType, false, false, true, QString(), true,
                      true);
+        if (!StillLoaded(self))
+            return;
         FillComboBox(QStringLiteral("CodeType"), cboCodeType, false, false, true, QString(), true,
                      false);
+        if (!StillLoaded(self))
+            return;
         FillComboBox(QStringLiteral("Category"), cboCategory, false, false, true, QString(), true,
                      true);
+        if (!StillLoaded(self))
+            return;
         FillTreeViewCategory();
     } catch (...) {
         HandleFailure("frmMain:StartUp;");
@@ -187,7 +201,12 @@ void frmMain::mnuUser_Click() {
     try {
         host().setMousePointer(vbHourglass);
         Hide();
+        const QPointer<frmMain> self(this);
         Forms::get<frmUser>().Show(vbModal);
+        if (!StillLoaded(self)) {
+            host().setMousePointer(vbDefault);
+            return;
+        }
         Show(vbModeless);
         // The tree that had the focus is drawn afresh.
         if (mstrActiveTree == QLatin1String("Main"))
@@ -225,12 +244,15 @@ void frmMain::mnuHelpSearch_Click() {
 }
 
 void frmMain::mnuAboutApp_Click() {
+    const QPointer<frmMain> self(this);
     try {
         setEnabled(false);
         Forms::get<frmAbout>().Show(vbModal);
-        setEnabled(true);
+        if (self)
+            setEnabled(true);
     } catch (...) {
-        setEnabled(true);
+        if (self)
+            setEnabled(true);
         HandleFailure("frmMain:mnuAboutApp_Click;");
     }
 }

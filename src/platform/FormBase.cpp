@@ -19,6 +19,11 @@ std::function<void()>& onEmpty() {
     static std::function<void()> callback;
     return callback;
 }
+// Forms unloaded while a handler yields, destroyed once the outermost yield is over.
+QList<QPointer<FormBase>>& unloadedWhileYielding() {
+    static QList<QPointer<FormBase>> forms;
+    return forms;
+}
 int gYieldDepth = 0;
 bool gEmptyCheckPending = false;
 } // namespace
@@ -40,6 +45,9 @@ void FormBase::load() {
 }
 
 void FormBase::Show(int mode) {
+    // An unloaded form stays gone, even for a handler that still holds it after a yield.
+    if (mUnloading)
+        return;
     if (mode == vbModal) {
         host().showModal(*this);
         return;
@@ -69,18 +77,30 @@ bool FormBase::Unload() {
     if (QDialog::result() == 0 && isModal())
         done(0);
     Forms::remove(this);
-    deleteLater();
+    // A handler that yielded may still be running on this form; it finds it unloaded.
+    if (gYieldDepth > 0)
+        unloadedWhileYielding().append(this);
+    else
+        deleteLater();
     return true;
 }
 
+void FormBase::runExitCommand() {
+    const ExitCommand command = exitCommand();
+    if (command.run)
+        RunHandler(this, command.handler, command.run);
+    else
+        RunHandler(this, "Form_Unload", [this] { Unload(); });
+}
+
 void FormBase::closeEvent(QCloseEvent* event) {
-    if (mUnloading) {
+    if (mUnloading || !mLoaded) {
         event->accept();
         return;
     }
-    bool unloaded = false;
-    RunHandler(this, "Form_Unload", [&] { unloaded = Unload(); });
-    if (unloaded)
+    runExitCommand();
+    // The window goes only if the command unloaded it.
+    if (mUnloading)
         event->accept();
     else
         event->ignore();
@@ -92,8 +112,9 @@ void FormBase::showEvent(QShowEvent* event) {
 }
 
 void FormBase::reject() {
-    // Escape closes the window the way its close box does.
-    close();
+    // Escape is no close command in a window without an exit or cancel command.
+    if (exitCommand().run)
+        runExitCommand();
 }
 
 FormBase* Forms::findByName(const QString& name) {
@@ -123,6 +144,10 @@ void Forms::destroyAll() {
         f->mLoaded = false;
         delete f;
     }
+    const QList<QPointer<FormBase>> unloaded = unloadedWhileYielding();
+    unloadedWhileYielding().clear();
+    for (const QPointer<FormBase>& f : unloaded)
+        delete f.data();
 }
 
 void Forms::add(FormBase* form) {
@@ -158,7 +183,13 @@ Forms::YieldScope::YieldScope() {
 }
 
 Forms::YieldScope::~YieldScope() {
-    --gYieldDepth;
+    if (--gYieldDepth > 0)
+        return;
+    const QList<QPointer<FormBase>> unloaded = unloadedWhileYielding();
+    unloadedWhileYielding().clear();
+    for (const QPointer<FormBase>& f : unloaded)
+        if (f)
+            f->deleteLater();
 }
 
 } // namespace qs

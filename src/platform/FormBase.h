@@ -2,12 +2,19 @@
 
 #include <QDialog>
 #include <QList>
+#include <QPointer>
 #include <functional>
 
 namespace qs {
 
 // Show modes.
 enum FormShowMode : int { vbModeless = 0, vbModal = 1 };
+
+// A form's own exit or cancel command: the name it reports failures under, and the member.
+struct ExitCommand {
+    const char* handler = nullptr;
+    std::function<void()> run;
+};
 
 // A window of the system.  Its object name is its design name ("frmMain"), and it lives in the
 // process-wide collection of loaded forms from its load to its unload, like the forms of the
@@ -41,14 +48,20 @@ protected:
     virtual void Form_Load() {}
     virtual void Form_Activate() {}
     virtual void Form_Unload(int& cancel) { (void)cancel; }
+    // The command that Escape and the close box both run, through the handler boundary: the
+    // form's own exit or cancel command, which decides whether the window goes (it may ask
+    // first, and stay on No).  A form without one ignores Escape, and its close box unloads it.
+    virtual ExitCommand exitCommand() { return {}; }
 
     void closeEvent(QCloseEvent* event) override;
     void showEvent(QShowEvent* event) override;
+    // Escape, as the dialog base class delivers it.
     void reject() override;
 
 private:
     friend class Forms;
     void load();
+    void runExitCommand();
     bool mLoaded = false;
     bool mUnloading = false;
 };
@@ -79,7 +92,9 @@ public:
     static void setOnEmpty(std::function<void()> callback);
 
     // Marks code that runs a nested event loop (DoEvents, a modal show): the program does not end
-    // under it, since the handler that yields is still running.
+    // under it, since the handler that yields is still running, and a form unloaded meanwhile is
+    // destroyed only once the outermost yield is over, so the handlers below still reach it and
+    // find it unloaded.
     class YieldScope {
     public:
         YieldScope();
@@ -96,5 +111,11 @@ private:
     static void remove(FormBase* form);
     static void scheduleEmptyCheck(int delayMs);
 };
+
+// After a yield: true when the form still stands and is loaded.  A handler that yields holds its
+// form in a QPointer and leaves quietly when this is false.
+template <class T> bool StillLoaded(const QPointer<T>& form) {
+    return form && form->IsLoaded();
+}
 
 } // namespace qs

@@ -152,6 +152,8 @@ int QtHost::msgBox(const QString& prompt, int flags, const QString& title) {
     if (defaultIndex < buttons.size())
         box.setDefaultButton(qobject_cast<QPushButton*>(buttons[defaultIndex].first));
 
+    // A prompt runs a nested event loop: a yield like DoEvents.
+    const Forms::YieldScope yielding;
     box.exec();
     for (const auto& b : buttons)
         if (box.clickedButton() == b.first)
@@ -162,6 +164,7 @@ int QtHost::msgBox(const QString& prompt, int flags, const QString& title) {
 
 QString QtHost::inputBox(const QString& prompt, const QString& title, const QString& defaultText) {
     bool ok = false;
+    const Forms::YieldScope yielding;
     const QString text =
         QInputDialog::getText(QApplication::activeWindow(), titleOrApp(title), displayText(prompt),
                               QLineEdit::Normal, defaultText, &ok);
@@ -202,6 +205,7 @@ QString QtHost::fileDialog(const FileDialogRequest& request) {
         dialog.setDefaultSuffix(request.defaultExt);
     if (!request.fileName.isEmpty())
         dialog.selectFile(request.fileName);
+    const Forms::YieldScope yielding;
     if (dialog.exec() != QDialog::Accepted)
         return QString();
     const QStringList chosen = dialog.selectedFiles();
@@ -345,6 +349,7 @@ PrinterChoice QtHost::printerDialog(int copies) {
     printer.setCopyCount(qMax(1, copies));
     QPrintDialog dialog(&printer, QApplication::activeWindow());
     PrinterChoice choice;
+    const Forms::YieldScope yielding;
     if (dialog.exec() != QDialog::Accepted)
         return choice;
     choice.accepted = true;

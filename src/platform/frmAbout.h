@@ -30,6 +30,9 @@ public:
 
 protected:
     void Form_Load() override;
+    ExitCommand exitCommand() override {
+        return {"cmdOK_Click", [this] { cmdOK_Click(); }};
+    }
 };
 
 } // namespace qs

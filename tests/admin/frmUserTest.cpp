@@ -1,4 +1,5 @@
 #include "AdminFixture.h"
+#include "ExitWays.h"
 
 #include "ComboBox.h"
 #include "FormBase.h"
@@ -108,13 +109,19 @@ TEST_F(FirstUser, ReadWriteAccessPassesYetTheUserIsStoredAsAdministrator) {
     EXPECT_EQ(storedUser(QStringLiteral("ada")).AccessLevel(), 1);
 }
 
-TEST_F(FirstUser, LeavingWithoutAUserAndAnsweringYesEndsTheProgram) {
+// Exit, Escape and the close box all ask before the program ends without a user.
+class FirstUserLeft : public FirstUser, public ::testing::WithParamInterface<Leave> {};
+
+TEST_P(FirstUserLeft, AnsweringYesEndsTheProgram) {
     frmUser& form = Forms::get<frmUser>();
+    showActive(form);
     hostScript.expectMsgBox(QStringLiteral("There are no users in the database."));
     hostScript.expectMsgBox(QStringLiteral("Exiting without entering an employee will cause "),
                             vbYes);
-    EXPECT_TRUE(hostScript.runToEnd([&] { form.cmdExit_Click(); }));
+    leave(form, GetParam(), form.cmdExit, form.txtUserFName);
+    EXPECT_TRUE(hostScript.ended());
 
+    ASSERT_FALSE(hostScript.msgBoxes().isEmpty());
     const HostCall question = hostScript.msgBoxes().last();
     EXPECT_EQ(question.text, QStringLiteral("Exiting without entering an employee will cause "
                                             "\r\nthe program to exit completely.\r\n\r\nDo you "
@@ -124,18 +131,23 @@ TEST_F(FirstUser, LeavingWithoutAUserAndAnsweringYesEndsTheProgram) {
     EXPECT_TRUE(gblnFirstUserCancelled);
 }
 
-TEST_F(FirstUser, LeavingWithoutAUserAndAnsweringNoReturnsToTheUserId) {
+TEST_P(FirstUserLeft, AnsweringNoReturnsToTheUserId) {
     frmUser& form = Forms::get<frmUser>();
     showActive(form);
     gblnFirstUserCancelled = true;
     hostScript.expectMsgBox(QStringLiteral("There are no users in the database."));
     hostScript.expectMsgBox(QStringLiteral("Exiting without entering an employee"), vbNo);
-    EXPECT_FALSE(hostScript.runToEnd([&] { form.cmdExit_Click(); }));
+    EXPECT_EQ(leave(form, GetParam(), form.cmdExit, form.txtUserFName),
+              GetParam() != Leave::CloseBox);
 
+    EXPECT_FALSE(hostScript.ended());
     EXPECT_FALSE(gblnFirstUserCancelled);
     EXPECT_EQ(Forms::find<frmUser>(), &form);
+    EXPECT_TRUE(form.isVisible());
     EXPECT_EQ(QApplication::focusWidget(), form.txtUserId);
 }
+
+INSTANTIATE_TEST_SUITE_P(Ways, FirstUserLeft, everyWay(), WayName());
 
 // ---------------------------------------------------------------------------------------------
 // Maintenance by a logged-in administrator.
@@ -385,12 +397,17 @@ TEST_F(UserMaintenance, RenamingOnesOwnIdKeepsTheSessionWorking) {
     EXPECT_EQ(library.GetBookmarks(QStringLiteral("BkMark_SrcCode"), gstrUserId).UBound(), 1);
 }
 
-TEST_F(UserMaintenance, ExitWithUsersClosesTheWindowWithoutAQuestion) {
+class UserMaintenanceLeft : public UserMaintenance, public ::testing::WithParamInterface<Leave> {};
+
+TEST_P(UserMaintenanceLeft, WithUsersTheWindowClosesWithoutAQuestion) {
     frmUser& form = Forms::get<frmUser>();
-    form.cmdExit_Click();
+    form.show();
+    EXPECT_TRUE(leave(form, GetParam(), form.cmdExit, form.txtUserId));
 
     EXPECT_TRUE(hostScript.msgBoxes().isEmpty());
     EXPECT_EQ(Forms::find<frmUser>(), nullptr);
 }
+
+INSTANTIATE_TEST_SUITE_P(Ways, UserMaintenanceLeft, everyWay(), WayName());
 
 } // namespace

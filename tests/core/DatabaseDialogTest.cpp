@@ -1,4 +1,5 @@
 #include "CoreFixture.h"
+#include "ExitWays.h"
 #include "FirstUserScript.h"
 
 #include "FormBase.h"
@@ -155,22 +156,30 @@ TEST_F(DatabaseDialog, LeavingTheFirstUserFormWithoutAUserEndsTheProgram) {
     EXPECT_EQ(Forms::find<frmLogin>(), nullptr);
 }
 
-TEST_F(DatabaseDialog, CancelAnsweredNoKeepsTheDialog) {
+// Cancel, Escape and the close box all ask through cmdExit_Click.
+class DatabaseDialogLeft : public DatabaseDialog, public ::testing::WithParamInterface<Leave> {};
+
+TEST_P(DatabaseDialogLeft, AnsweredNoKeepsTheDialog) {
     hostScript.expectMsgBox(QStringLiteral("Exiting without finding or creating a new database "
                                            "\r\nwill cause the program to exit completely."
                                            "\r\n\r\nDo you wish to continue?"),
                             vbNo);
-    dialog().cmdCancel->click();
+    leave(dialog(), GetParam(), dialog().cmdCancel, dialog().optSearch);
+    ASSERT_FALSE(hostScript.msgBoxes().isEmpty());
     EXPECT_EQ(hostScript.msgBoxes().last().flags, vbYesNo | vbQuestion);
     EXPECT_FALSE(hostScript.ended());
     EXPECT_NE(Forms::find<frmDatabase>(), nullptr);
+    EXPECT_TRUE(dialog().isVisible());
 }
 
-TEST_F(DatabaseDialog, CancelAnsweredYesEndsTheProgram) {
+TEST_P(DatabaseDialogLeft, AnsweredYesEndsTheProgram) {
     hostScript.expectMsgBox(QStringLiteral("Do you wish to continue?"), vbYes);
-    EXPECT_TRUE(hostScript.runToEnd([this] { dialog().cmdExit_Click(); }));
+    leave(dialog(), GetParam(), dialog().cmdCancel, dialog().optSearch);
+    EXPECT_TRUE(hostScript.ended());
     EXPECT_EQ(Forms::count(), 0);
 }
+
+INSTANTIATE_TEST_SUITE_P(Ways, DatabaseDialogLeft, everyWay(), WayName());
 
 TEST_F(DatabaseDialog, HelpOpensItsTopic) {
     SaveRegSetting(QString::fromLatin1(REG_KEY_HELPFILES), QStringLiteral("FilePath"),

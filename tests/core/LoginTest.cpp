@@ -1,4 +1,5 @@
 #include "CoreFixture.h"
+#include "ExitWays.h"
 
 #include "FormBase.h"
 #include "Globals.h"
@@ -315,9 +316,13 @@ TEST_F(Login, ServiceFailureIsReportedUnderTheLoginProcedureWithThePointerBack) 
     EXPECT_EQ(Forms::find<frmMain>(), nullptr);
 }
 
-TEST_F(Login, ExitEndsTheProgram) {
+// Exit, Escape and the close box all leave through cmdExit_Click.
+class LoginLeft : public Login, public ::testing::WithParamInterface<Leave> {};
+
+TEST_P(LoginLeft, EndsTheProgram) {
     form().Show();
-    EXPECT_TRUE(hostScript.runToEnd([this] { form().cmdExit_Click(); }));
+    leave(form(), GetParam(), form().cmdExit, form().txtPassword);
+    EXPECT_TRUE(hostScript.ended());
     EXPECT_EQ(Forms::count(), 0);
 }
 
@@ -346,8 +351,11 @@ protected:
     QString other;
 };
 
-TEST_F(LoginToAnotherDatabase, CancelPutsTheFormerDatabaseBackAndShowsTheMainWindow) {
-    form().cmdExit->click();
+class LoginToAnotherDatabaseLeft : public LoginToAnotherDatabase,
+                                   public ::testing::WithParamInterface<Leave> {};
+
+TEST_P(LoginToAnotherDatabaseLeft, PutsTheFormerDatabaseBackAndShowsTheMainWindow) {
+    EXPECT_TRUE(leave(form(), GetParam(), form().cmdExit, form().txtUserId));
     EXPECT_EQ(registryFileName(), QStringLiteral("Quillstone.mdb"));
     EXPECT_EQ(registryPath(), QFileInfo(previous).absolutePath());
     ASSERT_NE(Forms::find<frmMain>(), nullptr);
@@ -370,5 +378,8 @@ TEST_F(LoginToAnotherDatabase, UsedUpAttemptsShowTheMainWindowAgainAndKeepTheNew
     EXPECT_EQ(Forms::find<frmLogin>(), nullptr);
     EXPECT_EQ(registryFileName(), QStringLiteral("Other.mdb"));
 }
+
+INSTANTIATE_TEST_SUITE_P(Ways, LoginLeft, everyWay(), WayName());
+INSTANTIATE_TEST_SUITE_P(Ways, LoginToAnotherDatabaseLeft, everyWay(), WayName());
 
 } // namespace

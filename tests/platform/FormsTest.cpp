@@ -1,7 +1,10 @@
+#include "ExitWays.h"
 #include "FormBase.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
+#include <QLineEdit>
+#include <QTimer>
 #include <gtest/gtest.h>
 
 using qs::FormBase;
@@ -23,6 +26,25 @@ protected:
 class frmTwo : public FormBase {
 public:
     frmTwo() : FormBase(QStringLiteral("frmTwo")) {}
+};
+
+// A form whose exit command asks first, and unloads only when the answer is yes.
+class frmAsk : public FormBase {
+public:
+    frmAsk() : FormBase(QStringLiteral("frmAsk")) { box = new QLineEdit(this); }
+    QLineEdit* box;
+    int asked = 0;
+    bool agree = false;
+    void cmdExit_Click() {
+        ++asked;
+        if (agree)
+            Unload();
+    }
+
+protected:
+    qs::ExitCommand exitCommand() override {
+        return {"cmdExit_Click", [this] { cmdExit_Click(); }};
+    }
 };
 
 // Runs the event loop for a while so deferred checks get their turn.
@@ -96,4 +118,41 @@ TEST_F(FormsCollection, NoEndWhileAHandlerYieldsToTheEventLoop) {
     Forms::get<frmTwo>().Unload();
     spin(80);
     EXPECT_EQ(ends, 1);
+}
+
+TEST_F(FormsCollection, EscapeAndTheCloseBoxRunTheExitCommandWhichDecidesWhetherTheWindowGoes) {
+    using qs::test::Leave;
+    frmAsk& ask = Forms::get<frmAsk>();
+    ask.show();
+    qs::test::leave(ask, Leave::Escape, nullptr, ask.box);
+    EXPECT_FALSE(qs::test::leave(ask, Leave::CloseBox, nullptr, nullptr));
+    EXPECT_EQ(ask.asked, 2);
+    EXPECT_TRUE(ask.isVisible());
+    ask.agree = true;
+    EXPECT_TRUE(qs::test::leave(ask, Leave::CloseBox, nullptr, nullptr));
+    EXPECT_EQ(Forms::find<frmAsk>(), nullptr);
+
+    // Without an exit command Escape is no close command; the close box unloads.
+    frmTwo& two = Forms::get<frmTwo>();
+    two.show();
+    QTest::keyClick(&two, Qt::Key_Escape);
+    EXPECT_EQ(Forms::find<frmTwo>(), &two);
+    EXPECT_TRUE(qs::test::leave(two, Leave::CloseBox, nullptr, nullptr));
+    EXPECT_EQ(Forms::find<frmTwo>(), nullptr);
+}
+
+TEST_F(FormsCollection, FormUnloadedWhileAHandlerYieldsOutlivesTheYieldAndIsNotShownAgain) {
+    QPointer<frmOne> one(&Forms::get<frmOne>());
+    {
+        const Forms::YieldScope yielding;
+        QTimer::singleShot(0, [&one] { one->Unload(); });
+        spin(30);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        ASSERT_FALSE(one.isNull()) << "destroyed under the handler that yielded";
+        EXPECT_FALSE(one->IsLoaded());
+        one->Show();
+        EXPECT_FALSE(one->isVisible());
+    }
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_TRUE(one.isNull());
 }

@@ -1,4 +1,5 @@
 #include "frmAbout.h"
+#include "ExitWays.h"
 #include "HostFixture.h"
 
 #include <QCoreApplication>
@@ -66,4 +67,13 @@ TEST_F(About, SystemInfoWithoutAToolSaysSo) {
     hostScript.expectMsgBox(QStringLiteral("System Information Is Unavailable At This Time"), vbOK);
     Forms::get<frmAbout>().cmdSysInfo->click();
     EXPECT_TRUE(hostScript.callsOf(QStringLiteral("Shell")).isEmpty());
+}
+
+TEST_F(About, EscapeAndTheCloseBoxCloseItAsOkDoes) {
+    for (const Leave way : {Leave::Escape, Leave::CloseBox}) {
+        frmAbout& form = Forms::get<frmAbout>();
+        form.show();
+        EXPECT_TRUE(leave(form, way, form.cmdOK, form.cmdSysInfo));
+        EXPECT_EQ(Forms::find<frmAbout>(), nullptr) << wayName(way);
+    }
 }

@@ -2,6 +2,7 @@
 
 #include "QtHost.h"
 
+#include <QCoreApplication>
 #include <QMenu>
 #include <QPointer>
 #include <gtest/gtest.h>
@@ -318,6 +319,10 @@ bool ScriptedHost::previousInstance() {
 
 void ScriptedHost::doEvents() {
     ++mDoEvents;
+    if (!mRunEventsAtYields)
+        return;
+    const Forms::YieldScope yielding;
+    QCoreApplication::processEvents();
 }
 
 void ScriptedHost::endProcess() {

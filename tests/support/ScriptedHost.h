@@ -69,6 +69,9 @@ public:
     void setPrintResult(bool printed) { mPrintResult = printed; }
     void setPreviousInstance(bool running) { mPreviousInstance = running; }
     void setClipboardText(const QString& text) { mClipboard = text; }
+    // From now on DoEvents lets pending events run, as the real one does (a queued event can
+    // then unload a form under a handler that yields); by default it only counts.
+    void runEventsAtYields(bool on) { mRunEventsAtYields = on; }
 
     // --- observing ---------------------------------------------------------------------------
     const QList<HostCall>& calls() const { return mCalls; }
@@ -140,6 +143,7 @@ private:
     bool mHelpResult = true;
     bool mPrintResult = true;
     bool mPreviousInstance = false;
+    bool mRunEventsAtYields = false;
     int mPointer = 0;
     int mDoEvents = 0;
     bool mEnded = false;

@@ -1,0 +1,147 @@
+// Leaving the main window, and events that close it while one of its handlers yields.
+
+#include "HostFixture.h"
+
+#include "FormBase.h"
+#include "Globals.h"
+#include "TreeView.h"
+#include "cLibraryService.h"
+#include "cUser.h"
+#include "frmLogin.h"
+#include "frmMain.h"
+#include "mRegConstants.h"
+#include "mRegistry.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QElapsedTimer>
+#include <QFileInfo>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+
+using namespace qs;
+using namespace qs::test;
+
+namespace {
+
+// An empty library that the settings name, holding the administrator "ada".
+class MainExit : public HostFixture {
+protected:
+    void SetUp() override {
+        HostFixture::SetUp();
+        addGlobalReset("core", [] { ResetGlobals(); });
+        const QString database = home->file(QStringLiteral("Libraries/Quillstone.mdb"));
+        cLibraryService(database).CreateDatabase(database, QString());
+        const QFileInfo file(database);
+        SaveRegSetting(QString::fromLatin1(REG_KEY_DATABASE),
+                       QString::fromLatin1(REG_VAL_DATABASE_PATH), file.absolutePath());
+        SaveRegSetting(QString::fromLatin1(REG_KEY_DATABASE),
+                       QString::fromLatin1(REG_VAL_DATABASE_FILENAME), file.fileName());
+        cUser user;
+        user.BeginEdit(0);
+        user.UserId(QStringLiteral("ada"));
+        user.Password(QStringLiteral("secret"));
+        user.FirstName(QStringLiteral("Ada"));
+        user.LastName(QStringLiteral("Byron"));
+        user.AccessLevel(1);
+        user.Save(QStringLiteral("ada"), 0);
+    }
+    void TearDown() override {
+        Forms::setOnEmpty(nullptr);
+        HostFixture::TearDown();
+    }
+
+    // Presses OK on the login with ada's id and password.
+    static void logIn() {
+        frmLogin& login = Forms::get<frmLogin>();
+        login.Show();
+        login.txtUserId->setText(QStringLiteral("ada"));
+        login.txtPassword->setText(QStringLiteral("secret"));
+        login.cmdOk->click();
+    }
+
+    // At the next yield, the main window's close box is pressed.
+    void closeMainAtTheNextYield() {
+        hostScript.runEventsAtYields(true);
+        QTimer::singleShot(0, qApp, [] {
+            if (frmMain* main = Forms::find<frmMain>()) {
+                QCloseEvent event;
+                QApplication::sendEvent(main, &event);
+            }
+        });
+    }
+
+    // The login still stands and nothing was reported.
+    void expectTheLoginStandsAlone() {
+        EXPECT_GE(hostScript.doEventsCount(), 1);
+        EXPECT_EQ(Forms::find<frmMain>(), nullptr);
+        EXPECT_FALSE(gobjLibrary) << "a service object was left behind";
+        frmLogin* login = Forms::find<frmLogin>();
+        ASSERT_NE(login, nullptr);
+        EXPECT_TRUE(login->isVisible());
+        EXPECT_TRUE(hostScript.msgBoxes().isEmpty()) << hostScript.log().toStdString();
+        EXPECT_EQ(hostScript.mousePointer(), vbDefault);
+    }
+};
+
+TEST_F(MainExit, EscapeInATreeOrTheSearchBoxLeavesTheWindowAsItIs) {
+    logIn();
+    frmMain* main = Forms::find<frmMain>();
+    ASSERT_NE(main, nullptr);
+    for (QWidget* control : std::initializer_list<QWidget*>{main->tvwCategories, main->tvwMain,
+                                                            main->txtSearchString}) {
+        control->setFocus();
+        QTest::keyClick(control, Qt::Key_Escape);
+        EXPECT_EQ(Forms::find<frmMain>(), main) << control->objectName().toStdString();
+        EXPECT_TRUE(main->isVisible());
+    }
+    EXPECT_TRUE(gobjLibrary);
+    EXPECT_FALSE(hostScript.ended());
+    EXPECT_TRUE(hostScript.msgBoxes().isEmpty()) << hostScript.log().toStdString();
+}
+
+TEST_F(MainExit, CloseBoxUnloadsTheWindowAndTheProgramEndsWithNoWindowLeft) {
+    int ends = 0;
+    Forms::setOnEmpty([&ends] { ++ends; });
+    logIn();
+    frmMain* main = Forms::find<frmMain>();
+    ASSERT_NE(main, nullptr);
+    QCloseEvent event;
+    QApplication::sendEvent(main, &event);
+
+    EXPECT_TRUE(event.isAccepted());
+    EXPECT_EQ(Forms::count(), 0);
+    EXPECT_FALSE(gobjLibrary);
+    EXPECT_TRUE(hostScript.msgBoxes().isEmpty());
+    QElapsedTimer waited;
+    waited.start();
+    while (ends == 0 && waited.elapsed() < 500)
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
+    EXPECT_EQ(ends, 1);
+}
+
+// ---------------------------------------------------------------------------------------------
+// The main window closed while one of its handlers yields.
+
+using MainReentry = MainExit;
+
+TEST_F(MainReentry, WindowClosedWhileItsLoadYieldsLeavesTheLoginQuietly) {
+    closeMainAtTheNextYield();
+    logIn();
+    expectTheLoginStandsAlone();
+}
+
+TEST_F(MainReentry, WindowClosedWhileALoginToAnotherDatabaseStartsItAgainLeavesTheLoginQuietly) {
+    logIn();
+    ASSERT_NE(Forms::find<frmMain>(), nullptr);
+    gblnSwitchingDatabase = true;
+    Forms::find<frmMain>()->Hide();
+    hostScript.clearCalls();
+    closeMainAtTheNextYield();
+    logIn();
+    expectTheLoginStandsAlone();
+}
+
+} // namespace
