@@ -38,7 +38,8 @@ public:
 private:
     int checked(int index) const {
         if (index < 1 || index > mRows.size())
-            throw QsError(9, QString::fromLatin1(kAppSource), QStringLiteral("Subscript out of range"));
+            throw QsError(9, QString::fromLatin1(kAppSource),
+                          QStringLiteral("Subscript out of range"));
         return index - 1;
     }
     QVector<T> mRows;

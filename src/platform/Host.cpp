@@ -14,6 +14,8 @@ Host& host() {
     return *gHost;
 }
 
-void setHost(Host* h) { gHost = h; }
+void setHost(Host* h) {
+    gHost = h;
+}
 
 } // namespace qs

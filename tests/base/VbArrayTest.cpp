@@ -1,5 +1,5 @@
-#include "QsError.h"
 #include "VbArray.h"
+#include "QsError.h"
 
 #include <gtest/gtest.h>
 

@@ -25,6 +25,8 @@ TestHome::~TestHome() {
         qputenv(kVars[i], mOld[i]);
 }
 
-QString TestHome::file(const QString& relative) const { return mDir.filePath(relative); }
+QString TestHome::file(const QString& relative) const {
+    return mDir.filePath(relative);
+}
 
 } // namespace qs::test
