@@ -6,6 +6,7 @@
 #include "Globals.h"
 #include "Host.h"
 #include "ImageList.h"
+#include "RichTextBox.h"
 #include "SSTab.h"
 #include "Toolbar.h"
 #include "TreeView.h"
@@ -61,7 +62,15 @@ frmMain::frmMain() : FormBase(QStringLiteral("frmMain")) {
     connectPanes();
 }
 
-frmMain::~frmMain() = default;
+frmMain::~frmMain() {
+    // The controls outlive this part of the window while Qt tears them down; a focus change
+    // then must not reach the handlers of a window that is going.
+    for (TreeView* tree : {tvwCategories, tvwMain, tvwMainCopy, tvwBookMarks, tvwSearchResults}) {
+        tree->GotFocus = nullptr;
+        tree->LostFocus = nullptr;
+    }
+    RichTextBoxCode->GotFocus = nullptr;
+}
 
 void frmMain::Form_Load() {
     try {
