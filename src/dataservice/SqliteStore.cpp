@@ -10,7 +10,9 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QList>
+#include <QMutex>
 #include <QSqlError>
+#include <QThread>
 
 namespace qs {
 
@@ -29,11 +31,17 @@ quint32 headerWord(const QByteArray& header, int offset) {
     return (quint32(p[0]) << 24) | (quint32(p[1]) << 16) | (quint32(p[2]) << 8) | quint32(p[3]);
 }
 
-// Every store alive in this process, for closeAll.  Never destroyed: a store held by a static
-// object goes after every other static is gone.
+// Every store alive in this process, for closeAll.  Stores are made on any thread, so the list
+// has its lock.  Neither is destroyed: a store held by a static object goes after every other
+// static is gone.
 QList<SqliteStore*>& liveStores() {
     static auto* stores = new QList<SqliteStore*>();
     return *stores;
+}
+
+QMutex& liveStoresLock() {
+    static auto* lock = new QMutex();
+    return *lock;
 }
 
 QString nextConnectionName() {
@@ -56,12 +64,16 @@ bool SqliteStore::hasLibraryHeader(const QString& path) {
 }
 
 SqliteStore::SqliteStore(const QString& path, const QString& connectionName)
-    : mPath(path), mConnectionName(connectionName) {
+    : mPath(path), mConnectionName(connectionName), mThread(QThread::currentThread()) {
+    const QMutexLocker locker(&liveStoresLock());
     liveStores().append(this);
 }
 
 SqliteStore::~SqliteStore() {
-    liveStores().removeOne(this);
+    {
+        const QMutexLocker locker(&liveStoresLock());
+        liveStores().removeOne(this);
+    }
     if (mDb.isValid()) {
         mDb.close();
         mDb = QSqlDatabase();
@@ -275,8 +287,10 @@ void SqliteStore::Transaction::commit() {
 }
 
 void SqliteStore::closeAll() {
+    const QMutexLocker locker(&liveStoresLock());
     for (SqliteStore* store : liveStores()) {
-        if (!store->mDb.isOpen())
+        // A connection serves only the thread that opened it.
+        if (store->mThread != QThread::currentThread() || !store->mDb.isOpen())
             continue;
         {
             QSqlQuery checkpoint(store->mDb);

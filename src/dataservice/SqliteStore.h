@@ -7,6 +7,8 @@
 #include <functional>
 #include <memory>
 
+class QThread;
+
 namespace qs {
 
 // One connection to one library file.  Every service object and every record Save owns its own
@@ -83,6 +85,7 @@ private:
 
     QString mPath;
     QString mConnectionName;
+    QThread* mThread;
     QSqlDatabase mDb;
 };
 
