@@ -15,6 +15,8 @@
 #include <QPointer>
 #include <QScrollBar>
 #include <QStyledItemDelegate>
+#include <algorithm>
+#include <numeric>
 
 namespace qs {
 
@@ -151,17 +153,31 @@ void TreeView::placeSorted(QTreeWidgetItem* parent, QTreeWidgetItem* item) {
 }
 
 void TreeView::sortChildren(QTreeWidgetItem* parent) {
-    if (parent->childCount() < 2)
+    const int count = parent->childCount();
+    if (count < 2)
         return;
     QList<QTreeWidgetItem*> children;
-    for (int i = 0; i < parent->childCount(); ++i)
+    QStringList texts;
+    children.reserve(count);
+    texts.reserve(count);
+    for (int i = 0; i < count; ++i) {
         children.append(parent->child(i));
-    QList<QTreeWidgetItem*> ordered = children;
-    std::stable_sort(ordered.begin(), ordered.end(), [](QTreeWidgetItem* a, QTreeWidgetItem* b) {
-        return textBefore(a->text(0), b->text(0));
-    });
-    if (ordered == children)
+        texts.append(children.last()->text(0));
+    }
+    // Children added in order (a fill that sorts its rows first) stay where they are.
+    bool inOrder = true;
+    for (int i = 1; i < count && inOrder; ++i)
+        inOrder = !textBefore(texts.at(i), texts.at(i - 1));
+    if (inOrder)
         return;
+    QVector<int> order(count);
+    std::iota(order.begin(), order.end(), 0);
+    std::stable_sort(order.begin(), order.end(),
+                     [&texts](int a, int b) { return textBefore(texts.at(a), texts.at(b)); });
+    QList<QTreeWidgetItem*> ordered;
+    ordered.reserve(count);
+    for (const int i : order)
+        ordered.append(children.at(i));
     rearrangeQuietly(children, [&] {
         parent->takeChildren();
         parent->insertChildren(0, ordered);
@@ -496,15 +512,17 @@ void TreeView::keyReleaseEvent(QKeyEvent* event) {
         KeyUp(code, VbShift(event->modifiers()));
 }
 
+// A menu that pops up over the tree, or drops from the menu bar, takes no focus from it: the
+// tree neither loses nor gets the focus then.
 void TreeView::focusInEvent(QFocusEvent* event) {
     QTreeWidget::focusInEvent(event);
-    if (GotFocus)
+    if (GotFocus && event->reason() != Qt::PopupFocusReason)
         GotFocus();
 }
 
 void TreeView::focusOutEvent(QFocusEvent* event) {
     QTreeWidget::focusOutEvent(event);
-    if (LostFocus)
+    if (LostFocus && event->reason() != Qt::PopupFocusReason)
         LostFocus();
 }
 
