@@ -59,6 +59,8 @@ frmMain::frmMain() : FormBase(QStringLiteral("frmMain")) {
     connectMenus();
     connectTrees();
     connectPanes();
+    connectBookmarks();
+    connectSearch();
 }
 
 frmMain::~frmMain() = default;
@@ -128,6 +130,7 @@ void frmMain::StartUp() {
                      false);
         FillComboBox(QStringLiteral("Category"), cboCategory, false, false, true, QString(), true,
                      true);
+        FillTreeViewBookmarks(gstrUserId);
         FillTreeViewCategory();
     } catch (...) {
         HandleFailure("frmMain:StartUp;");
@@ -202,7 +205,9 @@ void frmMain::mnuUser_Click() {
 
 void frmMain::mnuBookmarks_Click() {
     try {
+        host().setMousePointer(vbHourglass);
         SSTabNavigate->setTab(1);
+        host().setMousePointer(vbDefault);
     } catch (...) {
         HandleFailure("frmMain:mnuBookmarks_Click;");
     }
