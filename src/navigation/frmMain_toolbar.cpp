@@ -49,8 +49,10 @@ const QHash<QString, Command>& toolBarCommands() {
     static const QHash<QString, Command> commands = {
         {QStringLiteral("Add Item"), [](frmMain& f) { f.AddItemCommand(); }},
         {QStringLiteral("Back"), [](frmMain& f) { f.stepInTree(false); }},
+        {QStringLiteral("BookMark"), [](frmMain& f) { f.AddBookmark(); }},
         {QStringLiteral("BookMarks"), [](frmMain& f) { f.SSTabNavigate->setTab(1); }},
         {QStringLiteral("DeleteNode"), [](frmMain& f) { f.DeleteNodeCommand(); }},
+        {QStringLiteral("Find"), [](frmMain& f) { f.SearchForText(); }},
         {QStringLiteral("Forward"), [](frmMain& f) { f.stepInTree(true); }},
         {QStringLiteral("Open DataBase"),
          [](frmMain& f) {
