@@ -26,6 +26,7 @@ public:
     void append(const T& row) { mRows.append(row); }
     void append(T&& row) { mRows.append(std::move(row)); }
     void clear() { mRows.clear(); }
+    void reserve(int count) { mRows.reserve(count); }
 
     // Plain iteration over the rows, first to last.
     auto begin() { return mRows.begin(); }
@@ -38,7 +39,8 @@ public:
 private:
     int checked(int index) const {
         if (index < 1 || index > mRows.size())
-            throw QsError(9, QString::fromLatin1(kAppSource), QStringLiteral("Subscript out of range"));
+            throw QsError(9, QString::fromLatin1(kAppSource),
+                          QStringLiteral("Subscript out of range"));
         return index - 1;
     }
     QVector<T> mRows;

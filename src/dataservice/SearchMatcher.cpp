@@ -77,7 +77,8 @@ SearchMatcher::Piece SearchMatcher::makePiece(const QString& text, TokenCharacte
     }
     allLettersOrDigits = allLettersOrDigits && leadLength == text.size();
     if (leadLength == text.size()) {
-        piece.asciiLower = text.toLatin1().toLower();
+        piece.asciiExact = text.toLatin1();
+        piece.asciiLower = piece.asciiExact.toLower();
         piece.hasK = piece.asciiLower.contains('k');
         piece.hasS = piece.asciiLower.contains('s');
     }
@@ -165,6 +166,15 @@ bool SearchMatcher::rowMatchesUtf8(const QVector<const Piece*>& pieces,
 
 SearchMatcher::ByteAnswer SearchMatcher::asciiPieceMatches(const Piece& piece,
                                                            const QByteArray& field) const {
+    // Most texts hold the piece as it was typed: found so at the start of a word, it matches
+    // without more ado.
+    const std::size_t length = std::size_t(piece.asciiLower.size());
+    const auto* exact = static_cast<const char*>(
+        memmem(field.constData(), std::size_t(field.size()), piece.asciiExact.constData(), length));
+    if (exact &&
+        (!piece.needsWordStart ||
+         boundaryBeforeUtf8(field, qsizetype(exact - field.constData())) == ByteAnswer::Yes))
+        return ByteAnswer::Yes;
     // The field with its ASCII letters in lower case, in a buffer that lives on; whether it
     // holds any byte outside ASCII comes with it.
     thread_local std::string lower;
@@ -182,7 +192,6 @@ SearchMatcher::ByteAnswer SearchMatcher::asciiPieceMatches(const Piece& piece,
         ((piece.hasK && field.contains(kKelvin)) || (piece.hasS && field.contains(kLongS))))
         return ByteAnswer::Unsure;
     const char* const start = lower.data();
-    const std::size_t length = std::size_t(piece.asciiLower.size());
     std::size_t from = 0;
     while (from + length <= size) {
         const void* hit = memmem(start + from, size - from, piece.asciiLower.constData(), length);

@@ -44,6 +44,7 @@ public:
         // whether it holds a "k" or an "s", which Qt also finds as the Kelvin sign and the
         // long s.
         QByteArray asciiLower;
+        QByteArray asciiExact; // its bytes as typed
         bool hasK = false;
         bool hasS = false;
     };

@@ -15,7 +15,7 @@
 #include "TokenCharacters.h"
 #include "cLibraryService.h"
 
-#include <QMap>
+#include <QSet>
 #include <QSqlQuery>
 
 namespace qs {
@@ -98,7 +98,6 @@ VbArray<ItemRow> cLibraryService::Search(int intMatchMode, const QString& strTex
         allNarrowed = allNarrowed && !piece.indexQuery.isEmpty();
     }
 
-    QMap<int, ItemRow> hits;
     const bool searchCode = lngCodeTypeId == 0 || lngCodeTypeId >= 200;
     const bool searchFiles = lngCodeTypeId < 200;
     if (searchCode) {
@@ -140,6 +139,9 @@ VbArray<ItemRow> cLibraryService::Search(int intMatchMode, const QString& strTex
             return parts.join(joiner);
         };
 
+        // Each query hands its rows out in id order; two are merged by id.
+        QVector<ItemRow> answered;
+        QVector<ItemRow> found;
         if (matcher.needsAll()) {
             // The index answers its pieces and narrows the others; the rule confirms those.
             QVector<const SearchMatcher::Piece*> narrowing = byIndex;
@@ -151,27 +153,37 @@ VbArray<ItemRow> cLibraryService::Search(int intMatchMode, const QString& strTex
                 candidates(expressionOf(narrowing, QStringLiteral(" AND ")), !confirmed.isEmpty());
             while (query.next()) {
                 if (confirmed.isEmpty() || matcher.rowMatchesUtf8(confirmed, codeFields(query)))
-                    hits.insert(query.value(1).toInt(), itemRowFrom(query));
+                    found.append(itemRowFrom(query));
             }
         } else {
+            QSet<int> answeredIds;
             if (!byIndex.isEmpty()) {
                 QSqlQuery query = candidates(expressionOf(byIndex, QStringLiteral(" OR ")), false);
-                while (query.next())
-                    hits.insert(query.value(1).toInt(), itemRowFrom(query));
+                while (query.next()) {
+                    answered.append(itemRowFrom(query));
+                    answeredIds.insert(answered.last().Id);
+                }
             }
             if (!confirmed.isEmpty()) {
                 const QString expression =
                     allNarrowed ? expressionOf(confirmed, QStringLiteral(" OR ")) : QString();
                 QSqlQuery query = candidates(expression, true);
                 while (query.next()) {
-                    const int id = query.value(1).toInt();
-                    if (!hits.contains(id) && matcher.rowMatchesUtf8(confirmed, codeFields(query)))
-                        hits.insert(id, itemRowFrom(query));
+                    if (!answeredIds.contains(query.value(1).toInt()) &&
+                        matcher.rowMatchesUtf8(confirmed, codeFields(query)))
+                        found.append(itemRowFrom(query));
                 }
             }
         }
-        for (const ItemRow& row : hits)
-            rows.append(row);
+        rows.reserve(answered.size() + found.size());
+        auto a = answered.cbegin();
+        auto f = found.cbegin();
+        while (a != answered.cend() || f != found.cend()) {
+            if (f == found.cend() || (a != answered.cend() && a->Id < f->Id))
+                rows.append(*a++);
+            else
+                rows.append(*f++);
+        }
     }
 
     if (searchFiles) {

@@ -195,7 +195,7 @@ void frmMain::cmdSearch_Click() {
         txtCodePath2->clear();
         lblCodeSnipDescr->clear();
         mstrSearchCodeType = cboCodeType->Text();
-        if (SSTabAboutCode->isVisible())
+        if (!SSTabAboutCode->isHidden())
             ClearOriginalControls();
         else
             ClearControlsSourceFileTab();

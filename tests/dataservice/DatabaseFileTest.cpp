@@ -77,8 +77,8 @@ TEST_F(CreateDatabase, MakesMissingFoldersAndAnEmptyLibrary) {
                   .toString(),
               QStringLiteral("/x/Quillstone.ini"));
     EXPECT_EQ(raw.value(QStringLiteral("PRAGMA journal_mode")).toString(), QStringLiteral("wal"));
-    // Pages hold a text item of a few KB whole, which keeps a search's reads to one per item.
-    EXPECT_EQ(raw.value(QStringLiteral("PRAGMA page_size")).toInt(), 16384);
+    // A page holds a text item of a few KB whole: a search reads one page for each.
+    EXPECT_EQ(raw.value(QStringLiteral("PRAGMA page_size")).toInt(), 8192);
 }
 
 TEST_F(CreateDatabase, RefusesAnExistingFileAndLeavesIt) {
