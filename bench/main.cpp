@@ -6,6 +6,7 @@
 // --runs   timed runs of each operation; the median is printed (default 7)
 // --stored-mb  size of the stored file added and written back (default 200; 0 leaves it out)
 // --rtf-mb  size of the rich text converted to HTML (default 1; 0 leaves it out)
+// --only   runs only the figures whose names start with this text (the library is still built)
 #include "Bench.h"
 #include "Figures.h"
 #include "PlainScan.h"
@@ -13,7 +14,7 @@
 
 #include "QsError.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <cstdio>
@@ -21,12 +22,19 @@
 using namespace qs::bench;
 
 int main(int argc, char* argv[]) {
-    QCoreApplication app(argc, argv);
+    // The window figures run offscreen, and the settings they write go to a folder of the
+    // bench's own, never to those of the person running it.
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("XDG_CONFIG_HOME",
+            QDir::temp().filePath(QStringLiteral("quillstone-bench-settings")).toLocal8Bit());
+    QApplication app(argc, argv);
     BenchContext context;
     context.items = 100000;
     bool reuse = false;
     int storedMb = 200;
     int rtfMb = 1;
+    QString only;
     const QStringList args = app.arguments();
     for (int i = 1; i < args.size(); ++i) {
         const QString& arg = args.at(i);
@@ -41,12 +49,14 @@ int main(int argc, char* argv[]) {
             storedMb = qMax(0, args.at(++i).toInt());
         } else if (arg == QLatin1String("--rtf-mb") && hasValue) {
             rtfMb = qMax(0, args.at(++i).toInt());
+        } else if (arg == QLatin1String("--only") && hasValue) {
+            only = args.at(++i);
         } else if (arg == QLatin1String("--reuse")) {
             reuse = true;
         } else {
             std::fprintf(
                 stderr, "usage: bench [--items N] [--db path] [--reuse] [--runs R] [--stored-mb M] "
-                        "[--rtf-mb M]\n");
+                        "[--rtf-mb M] [--only prefix]\n");
             return 2;
         }
     }
@@ -66,34 +76,48 @@ int main(int argc, char* argv[]) {
                         PlainScan::itemCount(context.path), true,
                         {{QStringLiteral("db"), QStringLiteral("\"%1\"").arg(context.path)}});
         }
-        FigureFileSize(context);
-        FigureGetItems(context);
-        FigureGetSourceCode(context);
+        const auto wants = [&only](const char* figure) {
+            return QString::fromLatin1(figure).startsWith(only);
+        };
+        if (wants("file_size"))
+            FigureFileSize(context);
+        if (wants("get_items"))
+            FigureGetItems(context);
+        if (wants("get_source_code"))
+            FigureGetSourceCode(context);
         const QString common = QString::fromLatin1(SyntheticLibrary::kCommonWord);
         const QString rare = QString::fromLatin1(SyntheticLibrary::kRareWord);
+        const auto search = [&](const QString& name, int mode, const QString& text, bool filtered) {
+            if (name.startsWith(only))
+                FigureSearch(context, name, mode, text, filtered);
+        };
         const char* modes[] = {"phrase", "any", "all"};
         for (int mode = 0; mode < 3; ++mode) {
             for (bool filtered : {false, true}) {
                 const QString tail = QLatin1String(modes[mode]) +
                                      (filtered ? QStringLiteral("_filtered") : QString());
-                FigureSearch(context, QStringLiteral("search_common_") + tail, mode, common,
-                             filtered);
-                FigureSearch(context, QStringLiteral("search_rare_") + tail, mode, rare, filtered);
+                search(QStringLiteral("search_common_") + tail, mode, common, filtered);
+                search(QStringLiteral("search_rare_") + tail, mode, rare, filtered);
             }
         }
         // Beyond single words: pieces the index only narrows and the rule confirms.
-        FigureSearch(context, QStringLiteral("search_two_words_rare_phrase"), 0,
-                     rare + QStringLiteral(" toolkit"), false);
-        FigureSearch(context, QStringLiteral("search_dotted_common_phrase"), 0,
-                     QStringLiteral("New ADODB.") + common, false);
-        FigureSearch(context, QStringLiteral("search_two_words_common_all"), 2,
-                     common + QStringLiteral(" Printer"), false);
-        FigureBackup(context);
-        FigureCompact(context);
-        FigureParseModule(context);
-        if (rtfMb > 0)
+        search(QStringLiteral("search_two_words_rare_phrase"), 0, rare + QStringLiteral(" toolkit"),
+               false);
+        search(QStringLiteral("search_dotted_common_phrase"), 0,
+               QStringLiteral("New ADODB.") + common, false);
+        search(QStringLiteral("search_two_words_common_all"), 2,
+               common + QStringLiteral(" Printer"), false);
+        if (wants("search_fill_tree"))
+            FigureSearchFill(context);
+        if (wants("backup_database"))
+            FigureBackup(context);
+        if (wants("compact_database"))
+            FigureCompact(context);
+        if (wants("parse_module"))
+            FigureParseModule(context);
+        if (rtfMb > 0 && wants("rtf_to_html"))
             FigureRtfToHtml(context, rtfMb);
-        if (storedMb > 0)
+        if (storedMb > 0 && wants("stored_file"))
             FigureStoredFile(context, storedMb);
     } catch (const qs::QsError& e) {
         std::fprintf(stderr, "bench: %s\n", qPrintable(e.description()));
