@@ -132,7 +132,8 @@ void frmMain::tvwMain_KeyUp(int& KeyCode, int Shift) {
                 mnuDelBookmark->trigger();
             else
                 mnuDelete->trigger();
-        } else if (KeyCode == kKeyInsert && key == kRoot) {
+        } else if (KeyCode == kKeyInsert && key == kRoot && mnuAdmin->isVisible()) {
+            // No button guards this key, so the level does: a reader adds nothing.
             mnuAddFolder->trigger();
         }
         setEnabled(true);

@@ -61,6 +61,7 @@ template <class Record, class Fetch> std::shared_ptr<Record> FetchUnlessGone(con
 
 } // namespace
 
+// The columns of the two revision lists, then the events of the panes.
 void frmMain::connectPanes() {
     lvwRevHistSetup(lvwRevisionHistory);
     lvwRevHistSetup(lstSrcFileRevHist);
@@ -117,6 +118,7 @@ bool frmMain::ShouldParseModule(const Node& node, bool blnMainTree, bool blnChil
 void frmMain::GetCodeSnippet(long lngId) {
     try {
         const auto library = NewLibrary();
+        mobjSourceCode.reset();
         mobjSourceCode = FetchUnlessGone<cSourceCode>(
             [&] { return library->GetSourceCode(static_cast<int>(lngId)); });
         RichTextBoxCode->setTextRTF(QString());
@@ -162,6 +164,7 @@ void frmMain::GetCodeSnippet(long lngId) {
 void frmMain::GetCodeSnippetBk(long lngId) {
     try {
         const auto library = NewLibrary();
+        mobjSourceCode.reset();
         mobjSourceCode = FetchUnlessGone<cSourceCode>(
             [&] { return library->GetSourceCode(static_cast<int>(lngId)); });
         RichTextBoxCode->setTextRTF(QString());
@@ -207,6 +210,7 @@ void frmMain::GetCodeSnippetBk(long lngId) {
 void frmMain::GetCodeSnippetSrch(long lngId) {
     try {
         const auto library = NewLibrary();
+        mobjSourceCode.reset();
         mobjSourceCode = FetchUnlessGone<cSourceCode>(
             [&] { return library->GetSourceCode(static_cast<int>(lngId)); });
         RichTextBoxCode->setTextRTF(QString());

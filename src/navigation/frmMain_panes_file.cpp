@@ -38,6 +38,7 @@ bool ListsEntry(int entry) {
 void frmMain::SourceFileInfoArtOrComp(long lngId) {
     try {
         const auto library = NewLibrary();
+        mobjSourceFile.reset();
         try {
             mobjSourceFile =
                 std::make_shared<cSourceFile>(library->GetSourceFile(static_cast<int>(lngId)));
@@ -45,7 +46,6 @@ void frmMain::SourceFileInfoArtOrComp(long lngId) {
             // Another user deleted it meanwhile: the tabs stay empty.
             if (error.number() != kErrRecordNotFound)
                 throw;
-            mobjSourceFile.reset();
         }
         SSTabSourceFile->setTab(0);
         if (!mobjSourceFile) {

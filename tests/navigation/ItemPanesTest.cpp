@@ -71,6 +71,15 @@ std::string rows(const ListView* list) {
     return out.join(QStringLiteral(", ")).toStdString();
 }
 
+// Shows the tab of the family's revision list, so that clicks land on a laid-out list.
+ListView* showRevisions(frmMain& form, const Family& family) {
+    form.SSTabSourceFile->setVisible(family.file);
+    form.SSTabAboutCode->setVisible(!family.file);
+    (family.file ? form.SSTabSourceFile : form.SSTabAboutCode)->setTab(1);
+    QCoreApplication::processEvents();
+    return form.*family.list;
+}
+
 void clickRow(ListView* list, int index) {
     const QRect rect = list->visualItemRect(list->ListItems(index).row());
     QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, rect.center());
@@ -208,35 +217,21 @@ TEST_F(ItemPanes, ClickingARevisionRowShowsItsAuthorAndComment) {
     form.show();
     for (const Family& family : kFamilies) {
         SCOPED_TRACE(family.name);
-        form.SSTabSourceFile->setVisible(family.file);
-        form.SSTabAboutCode->setVisible(!family.file);
-        const int id = add(family.file, {{{2024, 3, 5}, "1.1.0", 1, "Faster split"},
-                                         {{2024, 3, 4}, "1.0.0", 0, "Source Code Added"}});
-        (form.*family.load)(id);
-        if (family.file)
-            form.SSTabSourceFile->setTab(1);
-        else
-            form.SSTabAboutCode->setTab(1);
-        QCoreApplication::processEvents(); // lays out the pane just shown
+        (form.*family.load)(add(family.file, {{{2024, 3, 5}, "1.1.0", 1, "Faster split"},
+                                              {{2024, 3, 4}, "1.0.0", 0, "Source Code Added"}}));
+        ListView* list = showRevisions(form, family);
         QLineEdit* author = family.file ? form.txtSFRevHistAuthor : form.txtRevisionAuthorSC;
         QPlainTextEdit* comment = family.file ? form.txtRevCommentsSF : form.txtChangesSC;
-        ListView* list = form.*family.list;
 
-        // The load selects the top row of the list sorted by version, newest text first.
+        // The load selects the top row of the list sorted by version, highest text first.
         EXPECT_EQ(rows(list), "03/05/2024 1.1.0, 03/04/2024 1.0.0");
         EXPECT_EQ(author->text(), QStringLiteral("Tom Kell"));
         EXPECT_EQ(comment->toPlainText(), QStringLiteral("Faster split"));
-
         clickRow(list, 2);
         EXPECT_EQ(author->text(), QStringLiteral("Ada Lovelace"));
         EXPECT_EQ(comment->toPlainText(), QStringLiteral("Source Code Added"));
-        if (!family.file) {
-            EXPECT_EQ(form.txtSourceAuthor->text(), QStringLiteral("Ada Lovelace"));
-            EXPECT_EQ(form.RichTextBoxCode->Text(),
-                      QStringLiteral("Public Sub Split()\r\nEnd Sub"));
-            EXPECT_EQ(form.txtNotes->toPlainText(), QStringLiteral("Splits at blanks."));
-        }
     }
+    EXPECT_EQ(form.RichTextBoxCode->Text(), QStringLiteral("Public Sub Split()\r\nEnd Sub"));
 }
 
 TEST_F(ItemPanes, ColumnClickTogglesTheSortOfThatColumn) {
@@ -244,184 +239,148 @@ TEST_F(ItemPanes, ColumnClickTogglesTheSortOfThatColumn) {
     form.show();
     for (const Family& family : {kFamilies[0], kFamilies[3]}) {
         SCOPED_TRACE(family.name);
-        form.SSTabSourceFile->setVisible(family.file);
-        form.SSTabAboutCode->setVisible(!family.file);
-        const int id =
+        (form.*family.load)(
             add(family.file,
-                {{{2024, 1, 3}, "1.0.9"}, {{2024, 1, 1}, "1.0.10"}, {{2024, 1, 2}, "1.1.0"}});
-        (form.*family.load)(id);
-        form.SSTabSourceFile->setTab(1);
-        form.SSTabAboutCode->setTab(1);
-        QCoreApplication::processEvents(); // lays out the pane just shown
-        ListView* list = form.*family.list;
-        const auto versions = [&] {
-            QStringList out;
-            for (int i = 1; i <= list->ListItems.Count(); ++i)
-                out << list->ListItems(i).SubItems(1);
-            return out.join(QLatin1Char(' ')).toStdString();
-        };
-        EXPECT_EQ(versions(), "1.1.0 1.0.9 1.0.10");
+                {{{2024, 1, 3}, "1.0.9"}, {{2024, 1, 1}, "1.0.10"}, {{2024, 1, 2}, "1.1.0"}}));
+        ListView* list = showRevisions(form, family);
+        EXPECT_EQ(rows(list), "01/02/2024 1.1.0, 01/03/2024 1.0.9, 01/01/2024 1.0.10");
         clickHeader(list, 2);
-        EXPECT_EQ(versions(), "1.0.10 1.0.9 1.1.0");
+        EXPECT_EQ(rows(list), "01/01/2024 1.0.10, 01/03/2024 1.0.9, 01/02/2024 1.1.0");
         clickHeader(list, 2);
-        EXPECT_EQ(versions(), "1.1.0 1.0.9 1.0.10");
+        EXPECT_EQ(rows(list), "01/02/2024 1.1.0, 01/03/2024 1.0.9, 01/01/2024 1.0.10");
         clickHeader(list, 1);
-        EXPECT_EQ(versions(), "1.0.10 1.1.0 1.0.9");
+        EXPECT_EQ(rows(list), "01/01/2024 1.0.10, 01/02/2024 1.1.0, 01/03/2024 1.0.9");
     }
 }
 
-TEST_F(ItemPanes, FileWithoutVersionBlockSaysSoEverywhere) {
-    frmMain& form = Forms::get<frmMain>();
-    form.show();
-    form.SSTabSourceFile->setVisible(true);
-    form.LoadVerInfoCbo();
-    ASSERT_EQ(form.lboxVerInfo->ListCount(), 9);
-    form.SourceFileInfoArtOrComp(add(true, {}));
-
-    const QString none = QStringLiteral("Information not available.");
-    for (QLineEdit* box : {form.txtFileVer, form.txtDescription, form.txtCopyright})
-        EXPECT_EQ(box->text(), none);
-    EXPECT_EQ(form.txtVerInfo->toPlainText(), none);
-    ASSERT_EQ(form.lboxVerInfo->ListCount(), 1);
-    EXPECT_EQ(form.lboxVerInfo->List(0), none);
-    EXPECT_EQ(form.lboxVerInfo->ItemData(0), 0);
-    EXPECT_EQ(form.txtFilename->text(), QStringLiteral("Quill.exe"));
-    EXPECT_EQ(form.mstrFileName, QStringLiteral("Quill.exe"));
-    EXPECT_EQ(form.txtAuthorName->text(), QStringLiteral("Lovelace, Ada"));
-
-    // Picking that one row shows nothing: there is no entry behind it.
-    form.SSTabSourceFile->setTab(1);
-    form.txtVerInfo->setPlainText(QStringLiteral("as it was"));
-    QTest::mouseClick(form.lboxVerInfo->viewport(), Qt::LeftButton, {},
-                      form.lboxVerInfo->visualItemRect(form.lboxVerInfo->item(0)).center());
-    EXPECT_EQ(form.lboxVerInfo->ListIndex(), 0);
-    EXPECT_EQ(form.txtVerInfo->toPlainText(), QStringLiteral("as it was"));
-}
-
 TEST_F(ItemPanes, VersionBlockListsOnlyEntriesWithAValueLinkedByTheirNumber) {
+    const QString none = QStringLiteral("Information not available.");
+    struct Case {
+        const char* what;
+        QByteArray bytes;
+        QStringList fields; // txtFileVer, txtDescription, txtCopyright, then txtVerInfo
+        QStringList rows;   // text=item data
+        int click;
+        QString clicked; // txtVerInfo after a click on that row
+    };
+    const Case cases[] = {
+        {"no version block", "plain text", {none, none, none, none}, {none + "=0"}, 0, none},
+        {"version block",
+         PeImageBuilder::WithStrings({{"CompanyName", "Tarn Works"},
+                                      {"FileDescription", "Quill engine"},
+                                      {"LegalCopyright", "(c) Ovrin"},
+                                      {"ProductName", "Quill"}}),
+         {"2.3.4.5", "Quill engine", "(c) Ovrin", "Tarn Works"},
+         {"Company Name=0", "Description=1", "File Version=2", "Language=7", "Legal Copyright=8",
+          "Product Name=11", "Product Version=12", "File Type=14"},
+         5,
+         "Quill"},
+    };
     frmMain& form = Forms::get<frmMain>();
     form.show();
-    form.SSTabSourceFile->setVisible(true);
-    form.SSTabSourceFile->setTab(1);
-    form.SourceFileInfoArtOrComp(
-        add(true, {},
-            PeImageBuilder::WithStrings({{"CompanyName", "Tarn Works"},
-                                         {"FileDescription", "Quill engine"},
-                                         {"LegalCopyright", "(c) Ovrin"},
-                                         {"ProductName", "Quill"}})));
-    EXPECT_EQ(form.SSTabSourceFile->Tab(), 0);
-    form.SSTabSourceFile->setTab(1);
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.what);
+        form.LoadVerInfoCbo(); // the nine fixed rows stand there until the load
+        form.SourceFileInfoArtOrComp(add(true, {}, c.bytes));
+        EXPECT_EQ(form.SSTabSourceFile->Tab(), 0);
+        EXPECT_EQ(QStringList({form.txtFileVer->text(), form.txtDescription->text(),
+                               form.txtCopyright->text(), form.txtVerInfo->toPlainText()}),
+                  c.fields);
+        QStringList rows;
+        for (int i = 0; i < form.lboxVerInfo->ListCount(); ++i)
+            rows << form.lboxVerInfo->List(i) + QLatin1Char('=') +
+                        QString::number(form.lboxVerInfo->ItemData(i));
+        EXPECT_EQ(rows, c.rows);
+        EXPECT_EQ(form.txtFilename->text(), QStringLiteral("Quill.exe"));
+        EXPECT_EQ(form.mstrFileName, QStringLiteral("Quill.exe"));
+        EXPECT_EQ(form.txtAuthorName->text(), QStringLiteral("Lovelace, Ada"));
+        EXPECT_EQ(form.picIcon->pixmap().size(), QSize(32, 32));
 
-    QStringList listed;
-    for (int i = 0; i < form.lboxVerInfo->ListCount(); ++i)
-        listed << form.lboxVerInfo->List(i) + QLatin1Char('=') +
-                      QString::number(form.lboxVerInfo->ItemData(i));
-    EXPECT_EQ(listed, QStringList({"Company Name=0", "Description=1", "File Version=2",
-                                   "Language=7", "Legal Copyright=8", "Product Name=11",
-                                   "Product Version=12", "File Type=14"}));
-    EXPECT_EQ(form.lboxVerInfo->ListIndex(), 0);
-    EXPECT_EQ(form.txtVerInfo->toPlainText(), QStringLiteral("Tarn Works"));
-    EXPECT_EQ(form.txtDescription->text(), QStringLiteral("Quill engine"));
-    EXPECT_EQ(form.txtCopyright->text(), QStringLiteral("(c) Ovrin"));
-    EXPECT_EQ(form.txtFileVer->text(), QStringLiteral("2.3.4.5"));
-    ASSERT_FALSE(form.picIcon->pixmap().isNull());
-    EXPECT_EQ(form.picIcon->pixmap().size(), QSize(32, 32));
-
-    QTest::mouseClick(form.lboxVerInfo->viewport(), Qt::LeftButton, {},
-                      form.lboxVerInfo->visualItemRect(form.lboxVerInfo->item(5)).center());
-    EXPECT_EQ(form.txtVerInfo->toPlainText(), QStringLiteral("Quill"));
+        showRevisions(form, kFamilies[3]);
+        QTest::mouseClick(
+            form.lboxVerInfo->viewport(), Qt::LeftButton, {},
+            form.lboxVerInfo->visualItemRect(form.lboxVerInfo->item(c.click)).center());
+        EXPECT_EQ(form.lboxVerInfo->ListIndex(), c.click);
+        EXPECT_EQ(form.txtVerInfo->toPlainText(), c.clicked);
+    }
 }
 
 TEST_F(ItemPanes, RecordAnotherUserDeletedLeavesEmptyPanesWithoutAReport) {
     frmMain& form = Forms::get<frmMain>();
+    const auto erase = [](auto record) {
+        record.BeginEdit(0);
+        record.Deleted(true);
+        record.Save();
+    };
     for (const Family& family : kFamilies) {
         SCOPED_TRACE(family.name);
         const int id = add(family.file, {{{2024, 3, 4}, "1.0.0"}});
         (form.*family.load)(id);
         ASSERT_EQ((form.*family.list)->ListItems.Count(), 1);
         cLibraryService other(mDatabase);
-        if (family.file) {
-            cSourceFile gone = other.GetSourceFile(id);
-            gone.BeginEdit(0);
-            gone.Deleted(true);
-            gone.Save();
-        } else {
-            cSourceCode gone = other.GetSourceCode(id);
-            gone.BeginEdit(0);
-            gone.Deleted(true);
-            gone.Save();
-        }
+        family.file ? erase(other.GetSourceFile(id)) : erase(other.GetSourceCode(id));
 
         (form.*family.load)(id);
         EXPECT_EQ((form.*family.list)->ListItems.Count(), 0);
-        if (family.file) {
-            EXPECT_FALSE(form.mobjSourceFile);
-            EXPECT_EQ(form.txtFilename->text(), QString());
-            EXPECT_EQ(form.lboxVerInfo->ListCount(), 0);
-            EXPECT_EQ(form.txtSFRevHistAuthor->text(), QString());
-        } else {
-            EXPECT_FALSE(form.mobjSourceCode);
-            EXPECT_EQ(form.RichTextBoxCode->Text(), QString());
-            EXPECT_EQ(form.txtVersionNo->text(), QString());
-            EXPECT_EQ(form.txtRevisionAuthorSC->text(), QString());
-        }
+        EXPECT_EQ(family.file ? bool(form.mobjSourceFile) : bool(form.mobjSourceCode), false);
+        EXPECT_EQ((family.file ? form.txtFilename : form.txtVersionNo)->text(), QString());
+        EXPECT_EQ((family.file ? form.txtSFRevHistAuthor : form.txtRevisionAuthorSC)->text(),
+                  QString());
     }
     EXPECT_TRUE(hostScript.msgBoxes().isEmpty()) << hostScript.log().toStdString();
 
-    // Any other failure of the service is reported.
+    // Any other failure of the service is reported, and no earlier record stays behind.
+    const int id = add(false, {});
+    form.GetCodeSnippet(id);
+    ASSERT_TRUE(form.mobjSourceCode);
     pointAt(home->file(QStringLiteral("Elsewhere/Missing.mdb")));
     hostScript.expectMsgBox(QString::fromLatin1(kTextDatabaseNotFound));
-    form.GetCodeSnippet(1);
+    form.GetCodeSnippet(id);
+    EXPECT_FALSE(form.mobjSourceCode);
 }
 
 TEST_F(ItemPanes, FocusOnATabOrTheCodePaneTakesTheTreeCommandsAway) {
     frmMain& form = Forms::get<frmMain>();
-    form.show();
-    QApplication::setActiveWindow(&form);
     const QStringList buttons = {"Add Category", "Add Folder",  "Add SourceCode", "Add SourceFile",
                                  "DeleteNode",   "ReName Item", "Edit",           "BookMark"};
-    struct Case {
-        const char* what;
-        std::function<void()> act;
-        bool buttonsOff;
-    };
-    const auto clickTab = [](SSTab* tabs, int tab) {
-        QTest::mouseClick(tabs->tabBar(), Qt::LeftButton, {},
-                          tabs->tabBar()->tabRect(tab).center());
-    };
-    const Case cases[] = {
-        {"code tabs", [&] { clickTab(form.SSTabAboutCode, 1); }, true},
-        {"navigation tabs", [&] { clickTab(form.SSTabNavigate, 1); }, true},
-        {"code pane", [&] { form.RichTextBoxCode->setFocus(); }, false},
-    };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.what);
-        form.tvwMain->setFocus();
+    const auto enableAll = [&] {
         form.mnuModify->setEnabled(true);
         for (const QString& key : buttons)
             form.tbToolBar->Buttons(key).setEnabled(true);
-        c.act();
-        EXPECT_FALSE(form.mnuModify->isEnabled());
-        for (const QString& key : buttons)
-            EXPECT_EQ(form.tbToolBar->Buttons(key).Enabled(), !c.buttonsOff) << key.toStdString();
-    }
-
-    clickTab(form.SSTabNavigate, 2);
-    EXPECT_EQ(QApplication::focusWidget(), form.txtSearchString);
-}
-
-TEST_F(ItemPanes, FirstTabChangeOfEachTabControlLeavesTheModifyMenu) {
-    frmMain& form = Forms::get<frmMain>();
+    };
+    // A tab change by code: the first one of each tab control leaves the Modify menu alone.
     for (SSTab* tabs : {form.SSTabAboutCode, form.SSTabNavigate}) {
         SCOPED_TRACE(tabs->Name().toStdString());
-        form.mnuModify->setEnabled(true);
-        form.tbToolBar->Buttons(QStringLiteral("BookMark")).setEnabled(true);
+        enableAll();
         tabs->setTab(1);
         EXPECT_TRUE(form.mnuModify->isEnabled());
         EXPECT_FALSE(form.tbToolBar->Buttons(QStringLiteral("BookMark")).Enabled());
         tabs->setTab(0);
         EXPECT_FALSE(form.mnuModify->isEnabled());
     }
+
+    form.show();
+    QApplication::setActiveWindow(&form);
+    const auto clickTab = [](SSTab* tabs, int tab) {
+        QTest::mouseClick(tabs->tabBar(), Qt::LeftButton, {},
+                          tabs->tabBar()->tabRect(tab).center());
+    };
+    const std::pair<std::function<void()>, bool> cases[] = {
+        {[&] { clickTab(form.SSTabAboutCode, 1); }, true},
+        {[&] { clickTab(form.SSTabNavigate, 1); }, true},
+        {[&] { form.RichTextBoxCode->setFocus(); }, false}, // the code pane leaves the buttons
+    };
+    for (const auto& [act, buttonsOff] : cases) {
+        form.tvwMain->setFocus();
+        enableAll();
+        act();
+        EXPECT_FALSE(form.mnuModify->isEnabled());
+        for (const QString& key : buttons)
+            EXPECT_EQ(form.tbToolBar->Buttons(key).Enabled(), !buttonsOff) << key.toStdString();
+    }
+
+    clickTab(form.SSTabNavigate, 2);
+    EXPECT_EQ(QApplication::focusWidget(), form.txtSearchString);
 }
 
 TEST_F(ItemPanes, RightClickOnCodePopsTheEditMenuWithoutTheBookmarkPair) {

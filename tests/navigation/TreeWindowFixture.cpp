@@ -24,11 +24,11 @@ void TreeWindow::SetUp() {
     addGlobalReset("core", [] { ResetGlobals(); });
     mDatabase = home->file(QStringLiteral("Libraries/Quillstone.mdb"));
     cLibraryService(mDatabase).CreateDatabase(mDatabase, QString());
-    const QFileInfo file(mDatabase);
-    SaveRegSetting(QString::fromLatin1(REG_KEY_DATABASE),
-                   QString::fromLatin1(REG_VAL_DATABASE_PATH), file.absolutePath());
-    SaveRegSetting(QString::fromLatin1(REG_KEY_DATABASE),
-                   QString::fromLatin1(REG_VAL_DATABASE_FILENAME), file.fileName());
+    const QString key = QString::fromLatin1(REG_KEY_DATABASE);
+    SaveRegSetting(key, QString::fromLatin1(REG_VAL_DATABASE_PATH),
+                   QFileInfo(mDatabase).absolutePath());
+    SaveRegSetting(key, QString::fromLatin1(REG_VAL_DATABASE_FILENAME),
+                   QFileInfo(mDatabase).fileName());
     gstrUserId = QStringLiteral("ada");
 }
 
