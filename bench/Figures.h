@@ -23,5 +23,8 @@ void FigureParseModule(const BenchContext& context);
 // About `megabytes` MB of the code pane's rich text converted to HTML, beside a plain scan that
 // drops the control words of the same text.
 void FigureRtfToHtml(const BenchContext& context, int megabytes);
+// The search tab's hit tree filled by the main window offscreen, for a type node whose every
+// item is a hit (10,000 at 100,000 items), beside the plain scan of the same answer.
+void FigureSearchFill(const BenchContext& context);
 
 } // namespace qs::bench

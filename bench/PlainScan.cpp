@@ -60,7 +60,7 @@ QString PlainScan::code(int id) {
 }
 
 QList<int> PlainScan::search(int mode, const QString& text, int categoryId, int status,
-                             int codeTypeId) {
+                             int codeTypeId, bool itemsOnly) {
     QSqlQuery definition = forwardQuery(
         mConnectionName,
         QStringLiteral("SELECT sql FROM sqlite_master WHERE name = 'SourceCodeSearch'"));
@@ -71,9 +71,11 @@ QList<int> PlainScan::search(int mode, const QString& text, int categoryId, int 
     QList<int> ids;
     QSqlQuery query = forwardQuery(
         mConnectionName, QStringLiteral("SELECT Id, CategoryId, CodeTypeId, Tested, Description, "
-                                        "Code, Notes, Example FROM SourceCode NOT INDEXED"));
+                                        "Code, Notes, Example, IsFolder FROM SourceCode NOT "
+                                        "INDEXED"));
     while (query.next()) {
-        if ((categoryId == 0 || query.value(1).toInt() == categoryId) &&
+        if ((!itemsOnly || !query.value(8).toBool()) &&
+            (categoryId == 0 || query.value(1).toInt() == categoryId) &&
             (codeTypeId == 0 || query.value(2).toInt() == codeTypeId) &&
             (status == 0 || query.value(3).toInt() == status) &&
             matcher.rowMatches({query.value(4).toString(), query.value(5).toString(),

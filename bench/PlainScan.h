@@ -18,8 +18,10 @@ public:
     QList<int> items(int categoryId, int codeTypeId, int status);
     // The code of the row with that id.
     QString code(int id);
-    // Ids of the rows the search rule finds, ascending (filters as Search, 0 none).
-    QList<int> search(int mode, const QString& text, int categoryId, int status, int codeTypeId);
+    // Ids of the rows the search rule finds, ascending (filters as Search, 0 none); with
+    // itemsOnly the folders are left out.
+    QList<int> search(int mode, const QString& text, int categoryId, int status, int codeTypeId,
+                      bool itemsOnly = false);
     // Number of item rows (folders not counted) of the file at path.
     static qint64 itemCount(const QString& path);
 

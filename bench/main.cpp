@@ -1,5 +1,6 @@
 // bench: builds a synthetic library and prints one JSON line per figure.
 //   bench [--items N] [--db path] [--reuse] [--runs R] [--stored-mb M] [--skip-library]
+//         [--only prefix]
 // --items  items in the library (default 100000)
 // --db     library file (default: quillstone-bench-N.mdb in the temporary folder)
 // --reuse  keep an existing file at --db instead of building it again
@@ -8,6 +9,8 @@
 // --rtf-mb  size of the rich text converted to HTML (default 1; 0 leaves it out)
 // --skip-library  leaves out the figures of the synthetic library, the parser and the converter;
 //                 the tree and window figures remain
+// --only   runs only the library figures whose names start with this text (the library is still
+//          built)
 #include "Bench.h"
 #include "Figures.h"
 #include "PlainScan.h"
@@ -28,7 +31,8 @@ using namespace qs::bench;
 
 namespace {
 
-void libraryFigures(const BenchContext& context, bool reuse, int storedMb) {
+void libraryFigures(const BenchContext& context, bool reuse, int storedMb, int rtfMb,
+                    const QString& only) {
     if (!reuse || !QFileInfo::exists(context.path)) {
         const double ms =
             MedianMs(1, [&] { SyntheticLibrary::build(context.path, context.items); });
@@ -36,30 +40,46 @@ void libraryFigures(const BenchContext& context, bool reuse, int storedMb) {
                     PlainScan::itemCount(context.path), true,
                     {{QStringLiteral("db"), QStringLiteral("\"%1\"").arg(context.path)}});
     }
-    FigureFileSize(context);
-    FigureGetItems(context);
-    FigureGetSourceCode(context);
+    const auto wants = [&only](const QString& figure) { return figure.startsWith(only); };
+    if (wants(QStringLiteral("file_size")))
+        FigureFileSize(context);
+    if (wants(QStringLiteral("get_items")))
+        FigureGetItems(context);
+    if (wants(QStringLiteral("get_source_code")))
+        FigureGetSourceCode(context);
     const QString common = QString::fromLatin1(SyntheticLibrary::kCommonWord);
     const QString rare = QString::fromLatin1(SyntheticLibrary::kRareWord);
+    const auto search = [&](const QString& name, int mode, const QString& text, bool filtered) {
+        if (wants(name))
+            FigureSearch(context, name, mode, text, filtered);
+    };
     const char* modes[] = {"phrase", "any", "all"};
     for (int mode = 0; mode < 3; ++mode) {
         for (bool filtered : {false, true}) {
             const QString tail =
                 QLatin1String(modes[mode]) + (filtered ? QStringLiteral("_filtered") : QString());
-            FigureSearch(context, QStringLiteral("search_common_") + tail, mode, common, filtered);
-            FigureSearch(context, QStringLiteral("search_rare_") + tail, mode, rare, filtered);
+            search(QStringLiteral("search_common_") + tail, mode, common, filtered);
+            search(QStringLiteral("search_rare_") + tail, mode, rare, filtered);
         }
     }
     // Beyond single words: pieces the index only narrows and the rule confirms.
-    FigureSearch(context, QStringLiteral("search_two_words_rare_phrase"), 0,
-                 rare + QStringLiteral(" toolkit"), false);
-    FigureSearch(context, QStringLiteral("search_dotted_common_phrase"), 0,
-                 QStringLiteral("New ADODB.") + common, false);
-    FigureSearch(context, QStringLiteral("search_two_words_common_all"), 2,
-                 common + QStringLiteral(" Printer"), false);
-    FigureBackup(context);
-    FigureCompact(context);
-    if (storedMb > 0)
+    search(QStringLiteral("search_two_words_rare_phrase"), 0, rare + QStringLiteral(" toolkit"),
+           false);
+    search(QStringLiteral("search_dotted_common_phrase"), 0, QStringLiteral("New ADODB.") + common,
+           false);
+    search(QStringLiteral("search_two_words_common_all"), 2, common + QStringLiteral(" Printer"),
+           false);
+    if (wants(QStringLiteral("search_fill_tree")))
+        FigureSearchFill(context);
+    if (wants(QStringLiteral("backup_database")))
+        FigureBackup(context);
+    if (wants(QStringLiteral("compact_database")))
+        FigureCompact(context);
+    if (wants(QStringLiteral("parse_module")))
+        FigureParseModule(context);
+    if (rtfMb > 0 && wants(QStringLiteral("rtf_to_html")))
+        FigureRtfToHtml(context, rtfMb);
+    if (storedMb > 0 && wants(QStringLiteral("stored_file")))
         FigureStoredFile(context, storedMb);
 }
 
@@ -95,9 +115,12 @@ void treeAndWindowFigures(const BenchContext& library, bool reuse) {
 } // namespace
 
 int main(int argc, char* argv[]) {
-    // The tree and window figures draw nothing anyone sees.
+    // The window figures run offscreen, and the settings they write go to a folder of the
+    // bench's own, never to those of the person running it.
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("XDG_CONFIG_HOME",
+            QDir::temp().filePath(QStringLiteral("quillstone-bench-settings")).toLocal8Bit());
     QApplication app(argc, argv);
     BenchContext context;
     context.items = 100000;
@@ -105,6 +128,7 @@ int main(int argc, char* argv[]) {
     bool skipLibrary = false;
     int storedMb = 200;
     int rtfMb = 1;
+    QString only;
     const QStringList args = app.arguments();
     for (int i = 1; i < args.size(); ++i) {
         const QString& arg = args.at(i);
@@ -119,6 +143,8 @@ int main(int argc, char* argv[]) {
             storedMb = qMax(0, args.at(++i).toInt());
         } else if (arg == QLatin1String("--rtf-mb") && hasValue) {
             rtfMb = qMax(0, args.at(++i).toInt());
+        } else if (arg == QLatin1String("--only") && hasValue) {
+            only = args.at(++i);
         } else if (arg == QLatin1String("--reuse")) {
             reuse = true;
         } else if (arg == QLatin1String("--skip-library")) {
@@ -126,7 +152,7 @@ int main(int argc, char* argv[]) {
         } else {
             std::fprintf(
                 stderr, "usage: bench [--items N] [--db path] [--reuse] [--runs R] [--stored-mb M] "
-                        "[--rtf-mb M] [--skip-library]\n");
+                        "[--rtf-mb M] [--skip-library] [--only prefix]\n");
             return 2;
         }
     }
@@ -139,12 +165,8 @@ int main(int argc, char* argv[]) {
             QDir::temp().filePath(QStringLiteral("quillstone-bench-%1.mdb").arg(context.items));
 
     try {
-        if (!skipLibrary) {
-            libraryFigures(context, reuse, storedMb);
-            FigureParseModule(context);
-            if (rtfMb > 0)
-                FigureRtfToHtml(context, rtfMb);
-        }
+        if (!skipLibrary)
+            libraryFigures(context, reuse, storedMb, rtfMb, only);
         treeAndWindowFigures(context, reuse);
     } catch (const qs::QsError& e) {
         std::fprintf(stderr, "bench: %s\n", qPrintable(e.description()));

@@ -26,6 +26,7 @@ public:
     void append(const T& row) { mRows.append(row); }
     void append(T&& row) { mRows.append(std::move(row)); }
     void clear() { mRows.clear(); }
+    void reserve(int count) { mRows.reserve(count); }
 
     // Plain iteration over the rows, first to last.
     auto begin() { return mRows.begin(); }

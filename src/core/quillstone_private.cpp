@@ -23,6 +23,7 @@
 #include <QLineEdit>
 #include <QPointer>
 #include <QRadioButton>
+#include <optional>
 
 namespace qs {
 
@@ -262,6 +263,42 @@ void FillComboBox(const QString& strTable, ComboBox* cboCombo, bool blnShowField
     } catch (...) {
         HandleFailure("quillstone_private;FillComboBox;");
     }
+}
+
+bool DoesBookMarkExist(const QString& strTable, const QString& strUserId,
+                       const QString& strItemId) {
+    (void)strUserId;
+    try {
+        const long itemId = strItemId.toLong();
+        std::shared_ptr<cLibraryService> library = gobjLibrary;
+        if (!library)
+            library = NewLibrary();
+        // A list not fetched yet has no bounds, like an array never filled.
+        std::optional<VbArray<ItemRow>> codeRows;
+        std::optional<VbArray<ItemRow>> fileRows;
+        const auto upperBound = [](const std::optional<VbArray<ItemRow>>& rows) {
+            if (!rows)
+                throw QsError(9, QString::fromLatin1(kAppSource),
+                              QStringLiteral("Subscript out of range"));
+            return rows->UBound();
+        };
+        if (strTable == QLatin1String("BkMark_SrcCode")) {
+            codeRows = library->GetBookmarks(strTable, gstrUserId, true);
+            for (int i = 1; i <= upperBound(codeRows); ++i)
+                if ((*codeRows)(i).Id == itemId)
+                    return true;
+            return false;
+        }
+        // Stored files: the loop stands before the fetch and runs to the code list's bound.
+        for (int i = 1; i <= upperBound(codeRows); ++i)
+            if ((*fileRows)(i).Id == itemId)
+                return true;
+        fileRows = library->GetBookmarks(strTable, gstrUserId, true);
+        return false;
+    } catch (...) {
+        HandleFailure("quillstone_private;DoesBookMarkExist;");
+    }
+    return false;
 }
 
 } // namespace qs

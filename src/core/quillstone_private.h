@@ -48,4 +48,10 @@ void FillComboBox(const QString& strTable, ComboBox* cboCombo, bool blnShowField
                   const QString& strFormat = QString(), bool blnSetItemData = true,
                   bool blnClearFirst = true, const QVariant& varCriteria = QVariant());
 
+// True when the logged-in user's bookmark list of that table ("BkMark_SrcCode" or
+// "BkMark_SrcFile") holds the item; strUserId is not what is read.  For stored files the order
+// of the steps stands as it is: the code list's bound is read before any list is fetched, so
+// the check fails, reports the failure and answers False.  A file bookmark is never found here.
+bool DoesBookMarkExist(const QString& strTable, const QString& strUserId, const QString& strItemId);
+
 } // namespace qs

@@ -2,6 +2,10 @@
 
 #include "TokenCharacters.h"
 
+#include <QStringDecoder>
+#include <cstring>
+#include <string>
+
 namespace qs {
 
 namespace {
@@ -16,6 +20,16 @@ char32_t codePointAt(const QString& text, int index) {
     if (c.isHighSurrogate() && index + 1 < text.size() && text.at(index + 1).isLowSurrogate())
         return QChar::surrogateToUcs4(c, text.at(index + 1));
     return c.unicode();
+}
+
+// The bytes of the Kelvin sign and the long s in UTF-8.
+const QByteArray kKelvin = QByteArrayLiteral("\xE2\x84\xAA");
+const QByteArray kLongS = QByteArrayLiteral("\xC5\xBF");
+
+// Text as SQLite hands it out, a byte order mark at the start kept as a character.
+QString textOf(const QByteArray& utf8) {
+    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::ConvertInitialBom);
+    return decoder.decode(utf8);
 }
 
 } // namespace
@@ -62,6 +76,12 @@ SearchMatcher::Piece SearchMatcher::makePiece(const QString& text, TokenCharacte
             allLettersOrDigits = false;
     }
     allLettersOrDigits = allLettersOrDigits && leadLength == text.size();
+    if (leadLength == text.size()) {
+        piece.asciiExact = text.toLatin1();
+        piece.asciiLower = piece.asciiExact.toLower();
+        piece.hasK = piece.asciiLower.contains('k');
+        piece.hasS = piece.asciiLower.contains('s');
+    }
     piece.answeredByIndex = allLettersOrDigits;
     if (leadHasLetterOrDigit)
         piece.indexQuery = ftsString(text.left(leadLength)) + QLatin1Char('*');
@@ -86,22 +106,25 @@ bool SearchMatcher::pieceMatches(const Piece& piece, const QString& field) const
     }
 }
 
-bool SearchMatcher::rowMatches(const QVector<const Piece*>& pieces,
-                               const QStringList& fields) const {
+template <class Field>
+bool SearchMatcher::rowMatchesWith(const QVector<const Piece*>& pieces, int count,
+                                   Field&& field) const {
     for (const Piece* piece : pieces) {
         bool found = false;
-        for (const QString& field : fields) {
-            if (pieceMatches(*piece, field)) {
-                found = true;
-                break;
-            }
-        }
+        for (int i = 0; i < count && !found; ++i)
+            found = pieceMatches(*piece, field(i));
         if (found && !mNeedsAll)
             return true;
         if (!found && mNeedsAll)
             return false;
     }
     return mNeedsAll;
+}
+
+bool SearchMatcher::rowMatches(const QVector<const Piece*>& pieces,
+                               const QStringList& fields) const {
+    return rowMatchesWith(pieces, int(fields.size()),
+                          [&fields](int i) -> const QString& { return fields.at(i); });
 }
 
 bool SearchMatcher::rowMatches(const QStringList& fields) const {
@@ -111,6 +134,112 @@ bool SearchMatcher::rowMatches(const QStringList& fields) const {
     for (const Piece& piece : mPieces)
         all.append(&piece);
     return rowMatches(all, fields);
+}
+
+bool SearchMatcher::rowMatchesUtf8(const QVector<const Piece*>& pieces,
+                                   const QVector<QByteArray>& fields) const {
+    QVector<QString> texts(fields.size());
+    QVector<bool> made(fields.size(), false);
+    const auto text = [&](int i) -> const QString& {
+        if (!made[i]) {
+            texts[i] = textOf(fields.at(i));
+            made[i] = true;
+        }
+        return texts.at(i);
+    };
+    for (const Piece* piece : pieces) {
+        bool found = false;
+        for (int i = 0; i < fields.size() && !found; ++i) {
+            const QByteArray& bytes = fields.at(i);
+            const ByteAnswer answer =
+                piece->asciiLower.isEmpty() ? ByteAnswer::Unsure : asciiPieceMatches(*piece, bytes);
+            found = answer == ByteAnswer::Unsure ? pieceMatches(*piece, text(i))
+                                                 : answer == ByteAnswer::Yes;
+        }
+        if (found && !mNeedsAll)
+            return true;
+        if (!found && mNeedsAll)
+            return false;
+    }
+    return mNeedsAll;
+}
+
+SearchMatcher::ByteAnswer SearchMatcher::asciiPieceMatches(const Piece& piece,
+                                                           const QByteArray& field) const {
+    // Most texts hold the piece as it was typed: found so at the start of a word, it matches
+    // without more ado.
+    const std::size_t length = std::size_t(piece.asciiLower.size());
+    const auto* exact = static_cast<const char*>(
+        memmem(field.constData(), std::size_t(field.size()), piece.asciiExact.constData(), length));
+    if (exact &&
+        (!piece.needsWordStart ||
+         boundaryBeforeUtf8(field, qsizetype(exact - field.constData())) == ByteAnswer::Yes))
+        return ByteAnswer::Yes;
+    // The field with its ASCII letters in lower case, in a buffer that lives on; whether it
+    // holds any byte outside ASCII comes with it.
+    thread_local std::string lower;
+    const std::size_t size = std::size_t(field.size());
+    lower.resize(size);
+    const auto* __restrict bytes = reinterpret_cast<const uchar*>(field.constData());
+    auto* __restrict out = reinterpret_cast<uchar*>(lower.data());
+    uchar high = 0;
+    for (std::size_t i = 0; i < size; ++i) {
+        const uchar c = bytes[i];
+        high |= c;
+        out[i] = uchar(c - 'A') < 26 ? uchar(c | 0x20) : c;
+    }
+    if ((high & 0x80) &&
+        ((piece.hasK && field.contains(kKelvin)) || (piece.hasS && field.contains(kLongS))))
+        return ByteAnswer::Unsure;
+    const char* const start = lower.data();
+    std::size_t from = 0;
+    while (from + length <= size) {
+        const void* hit = memmem(start + from, size - from, piece.asciiLower.constData(), length);
+        if (!hit)
+            return ByteAnswer::No;
+        const std::size_t at = std::size_t(static_cast<const char*>(hit) - start);
+        if (!piece.needsWordStart)
+            return ByteAnswer::Yes;
+        const ByteAnswer boundary = boundaryBeforeUtf8(field, qsizetype(at));
+        if (boundary != ByteAnswer::No)
+            return boundary;
+        from = at + 1;
+    }
+    return ByteAnswer::No;
+}
+
+SearchMatcher::ByteAnswer SearchMatcher::boundaryBeforeUtf8(const QByteArray& field,
+                                                            qsizetype index) const {
+    const auto* bytes = reinterpret_cast<const uchar*>(field.constData());
+    while (index > 0) {
+        // The character that ends at index: its lead byte and its code point.
+        qsizetype lead = index - 1;
+        while (lead > 0 && index - lead < 4 && (bytes[lead] & 0xC0) == 0x80)
+            --lead;
+        const int length = int(index - lead);
+        const uchar first = bytes[lead];
+        const int expected = first < 0x80 ? 1 : first >= 0xF0 ? 4 : first >= 0xE0 ? 3 : 2;
+        if (first >= 0x80 && (first < 0xC2 || first > 0xF4))
+            return ByteAnswer::Unsure;
+        if (length != expected)
+            return ByteAnswer::Unsure;
+        char32_t c = expected == 1 ? first : first & (0x7F >> expected);
+        for (int i = 1; i < length; ++i)
+            c = (c << 6) | (bytes[lead + i] & 0x3F);
+        const char32_t least[] = {0, 0, 0x80, 0x800, 0x10000};
+        if (c < least[expected] || c > 0x10FFFF || (c >= 0xD800 && c <= 0xDFFF))
+            return ByteAnswer::Unsure;
+        switch (mTokens.kind(c)) {
+        case TokenCharacters::Kind::Separator:
+            return ByteAnswer::Yes;
+        case TokenCharacters::Kind::Word:
+            return ByteAnswer::No;
+        case TokenCharacters::Kind::Mark:
+            index = lead;
+            break;
+        }
+    }
+    return ByteAnswer::Yes;
 }
 
 } // namespace qs

@@ -40,6 +40,13 @@ public:
         bool answeredByIndex = false; // the index query is the rule
         QString indexQuery;           // FTS5 expression; empty when the index cannot narrow
         bool needsWordStart = false;  // begins with a word character
+        // For a piece of ASCII characters alone: its bytes with the letters in lower case, and
+        // whether it holds a "k" or an "s", which Qt also finds as the Kelvin sign and the
+        // long s.
+        QByteArray asciiLower;
+        QByteArray asciiExact; // its bytes as typed
+        bool hasK = false;
+        bool hasS = false;
     };
 
     SearchMatcher(int matchMode, const QString& text, TokenCharacters& tokens);
@@ -55,12 +62,27 @@ public:
     bool rowMatches(const QVector<const Piece*>& pieces, const QStringList& fields) const;
     // The rule over all pieces.
     bool rowMatches(const QStringList& fields) const;
+    // The same rule for fields read as the UTF-8 bytes they are stored in (well-formed, as the
+    // store writes them).  An ASCII piece is looked for in the bytes themselves: an ASCII byte
+    // is the same character in the text, no byte of a longer sequence is ASCII, and only the
+    // Kelvin sign and the long s fold onto ASCII letters, so a field holding one of those that
+    // the piece could meet is made text, as is every field another piece looks at.
+    bool rowMatchesUtf8(const QVector<const Piece*>& pieces,
+                        const QVector<QByteArray>& fields) const;
 
     // An FTS5 string that SQLite reads back as exactly this text.
     static QString ftsString(const QString& text);
 
 private:
+    // The rule over `count` fields that `field(i)` hands out.
+    template <class Field>
+    bool rowMatchesWith(const QVector<const Piece*>& pieces, int count, Field&& field) const;
     static Piece makePiece(const QString& text, TokenCharacters& tokens);
+    enum class ByteAnswer { No, Yes, Unsure };
+    // The rule for an ASCII piece in UTF-8 bytes; Unsure where the bytes before an occurrence
+    // are no well-formed character.
+    ByteAnswer asciiPieceMatches(const Piece& piece, const QByteArray& field) const;
+    ByteAnswer boundaryBeforeUtf8(const QByteArray& field, qsizetype index) const;
 
     TokenCharacters& mTokens;
     QVector<Piece> mPieces;

@@ -17,5 +17,8 @@ QStringList SearchSchemaStatements();
 
 // The name of the covering index Search reads item rows from when the file has it.
 inline constexpr const char kSearchRowIndex[] = "SourceCode_Rows";
+// The covering index of one type node, which a search within a category walks, testing each row
+// against the index's answer, instead of looking up every row the index answers.
+inline constexpr const char kSearchNodeIndex[] = "SourceCode_Node";
 
 } // namespace qs

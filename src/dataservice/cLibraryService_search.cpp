@@ -15,7 +15,7 @@
 #include "TokenCharacters.h"
 #include "cLibraryService.h"
 
-#include <QMap>
+#include <QSet>
 #include <QSqlQuery>
 
 namespace qs {
@@ -24,8 +24,10 @@ namespace {
 
 const char kItemColumns[] = "s.ParentId, s.Id, s.CategoryId, s.CodeTypeId, s.Tested, "
                             "s.Description, s.IsFolder";
-// Beside the item columns; the description is column 5 of those.
-const char kTextColumns[] = ", s.Code, s.Notes, s.Example";
+// Beside the item columns, the fields the rule looks at, as the UTF-8 bytes they are stored
+// in: turning every field of every candidate into text costs more than the rule itself.
+const char kTextColumns[] = ", CAST(s.Description AS BLOB), CAST(s.Code AS BLOB), "
+                            "CAST(s.Notes AS BLOB), CAST(s.Example AS BLOB)";
 
 struct Filters {
     QString sql;
@@ -49,9 +51,9 @@ Filters codeFilters(int categoryId, int status, int codeTypeId) {
     return filters;
 }
 
-QStringList codeFields(const QSqlQuery& query) {
-    return {query.value(5).toString(), query.value(7).toString(), query.value(8).toString(),
-            query.value(9).toString()};
+QVector<QByteArray> codeFields(const QSqlQuery& query) {
+    return {query.value(7).toByteArray(), query.value(8).toByteArray(),
+            query.value(9).toByteArray(), query.value(10).toByteArray()};
 }
 
 } // namespace
@@ -65,16 +67,20 @@ VbArray<ItemRow> cLibraryService::Search(int intMatchMode, const QString& strTex
     SqliteStore& db = store(source);
     QString indexSql;
     bool hasRowIndex = false;
+    bool hasNodeIndex = false;
     {
         QSqlQuery schema =
             db.run(QStringLiteral("SELECT name, sql FROM sqlite_master WHERE name IN "
-                                  "('SourceCodeSearch', ?)"),
-                   {QLatin1String(kSearchRowIndex)}, source);
+                                  "('SourceCodeSearch', ?, ?)"),
+                   {QLatin1String(kSearchRowIndex), QLatin1String(kSearchNodeIndex)}, source);
         while (schema.next()) {
-            if (schema.value(0).toString() == QLatin1String("SourceCodeSearch"))
+            const QString name = schema.value(0).toString();
+            if (name == QLatin1String("SourceCodeSearch"))
                 indexSql = schema.value(1).toString();
-            else
+            else if (name == QLatin1String(kSearchRowIndex))
                 hasRowIndex = true;
+            else
+                hasNodeIndex = true;
         }
     }
     TokenCharacters& tokens =
@@ -92,7 +98,6 @@ VbArray<ItemRow> cLibraryService::Search(int intMatchMode, const QString& strTex
         allNarrowed = allNarrowed && !piece.indexQuery.isEmpty();
     }
 
-    QMap<int, ItemRow> hits;
     const bool searchCode = lngCodeTypeId == 0 || lngCodeTypeId >= 200;
     const bool searchFiles = lngCodeTypeId < 200;
     if (searchCode) {
@@ -100,20 +105,26 @@ VbArray<ItemRow> cLibraryService::Search(int intMatchMode, const QString& strTex
         // Rows of the index expression, with their text when the rule must confirm them; an
         // empty expression reads every row of the filters.
         const auto candidates = [&](const QString& expression, bool withText) {
-            // Hits without text read their item rows from the dense covering index when the
-            // file has it, not from the wide table rows.
+            // Within a category the rows of the type node are walked in their covering index
+            // and each is tested against the index's answer: a common word answers most of the
+            // library, and looking each of those rows up costs more than the node holds.  With
+            // no category, hits without text read their item rows from the dense covering index
+            // by id, not from the wide table rows.
+            const bool byNode = hasNodeIndex && lngCategoryId != 0 && !expression.isEmpty();
             const bool covered = hasRowIndex && !withText && !expression.isEmpty();
+            const char* index = byNode ? kSearchNodeIndex : covered ? kSearchRowIndex : nullptr;
             QString sql =
                 QStringLiteral("SELECT %1%2 FROM SourceCode s%3 WHERE 1")
                     .arg(QLatin1String(kItemColumns),
                          withText ? QLatin1String(kTextColumns) : QLatin1String(""),
-                         covered
-                             ? QStringLiteral(" INDEXED BY %1").arg(QLatin1String(kSearchRowIndex))
-                             : QString());
+                         index ? QStringLiteral(" INDEXED BY %1").arg(QLatin1String(index))
+                               : QString());
             QVariantList binds;
             if (!expression.isEmpty()) {
-                sql += QStringLiteral(" AND s.Id IN (SELECT rowid FROM SourceCodeSearch WHERE "
-                                      "SourceCodeSearch MATCH ?)");
+                // The "+" keeps the test a filter, so the walk is not turned into lookups.
+                sql += QStringLiteral(" AND %1s.Id IN (SELECT rowid FROM SourceCodeSearch WHERE "
+                                      "SourceCodeSearch MATCH ?)")
+                           .arg(byNode ? QStringLiteral("+") : QString());
                 binds << expression;
             }
             sql += filters.sql + QStringLiteral(" ORDER BY s.Id");
@@ -128,6 +139,9 @@ VbArray<ItemRow> cLibraryService::Search(int intMatchMode, const QString& strTex
             return parts.join(joiner);
         };
 
+        // Each query hands its rows out in id order; two are merged by id.
+        QVector<ItemRow> answered;
+        QVector<ItemRow> found;
         if (matcher.needsAll()) {
             // The index answers its pieces and narrows the others; the rule confirms those.
             QVector<const SearchMatcher::Piece*> narrowing = byIndex;
@@ -138,28 +152,38 @@ VbArray<ItemRow> cLibraryService::Search(int intMatchMode, const QString& strTex
             QSqlQuery query =
                 candidates(expressionOf(narrowing, QStringLiteral(" AND ")), !confirmed.isEmpty());
             while (query.next()) {
-                if (confirmed.isEmpty() || matcher.rowMatches(confirmed, codeFields(query)))
-                    hits.insert(query.value(1).toInt(), itemRowFrom(query));
+                if (confirmed.isEmpty() || matcher.rowMatchesUtf8(confirmed, codeFields(query)))
+                    found.append(itemRowFrom(query));
             }
         } else {
+            QSet<int> answeredIds;
             if (!byIndex.isEmpty()) {
                 QSqlQuery query = candidates(expressionOf(byIndex, QStringLiteral(" OR ")), false);
-                while (query.next())
-                    hits.insert(query.value(1).toInt(), itemRowFrom(query));
+                while (query.next()) {
+                    answered.append(itemRowFrom(query));
+                    answeredIds.insert(answered.last().Id);
+                }
             }
             if (!confirmed.isEmpty()) {
                 const QString expression =
                     allNarrowed ? expressionOf(confirmed, QStringLiteral(" OR ")) : QString();
                 QSqlQuery query = candidates(expression, true);
                 while (query.next()) {
-                    const int id = query.value(1).toInt();
-                    if (!hits.contains(id) && matcher.rowMatches(confirmed, codeFields(query)))
-                        hits.insert(id, itemRowFrom(query));
+                    if (!answeredIds.contains(query.value(1).toInt()) &&
+                        matcher.rowMatchesUtf8(confirmed, codeFields(query)))
+                        found.append(itemRowFrom(query));
                 }
             }
         }
-        for (const ItemRow& row : hits)
-            rows.append(row);
+        rows.reserve(answered.size() + found.size());
+        auto a = answered.cbegin();
+        auto f = found.cbegin();
+        while (a != answered.cend() || f != found.cend()) {
+            if (f == found.cend() || (a != answered.cend() && a->Id < f->Id))
+                rows.append(*a++);
+            else
+                rows.append(*f++);
+        }
     }
 
     if (searchFiles) {

@@ -60,6 +60,8 @@ frmMain::frmMain() : FormBase(QStringLiteral("frmMain")) {
     connectMenus();
     connectTrees();
     connectPanes();
+    connectBookmarks();
+    connectSearch();
 }
 
 frmMain::~frmMain() {
@@ -151,6 +153,7 @@ void frmMain::StartUp() {
                      true);
         if (!StillLoaded(self))
             return;
+        FillTreeViewBookmarks(gstrUserId);
         FillTreeViewCategory();
     } catch (...) {
         HandleFailure("frmMain:StartUp;");
@@ -230,7 +233,9 @@ void frmMain::mnuUser_Click() {
 
 void frmMain::mnuBookmarks_Click() {
     try {
+        host().setMousePointer(vbHourglass);
         SSTabNavigate->setTab(1);
+        host().setMousePointer(vbDefault);
     } catch (...) {
         HandleFailure("frmMain:mnuBookmarks_Click;");
     }

@@ -4,6 +4,7 @@
 #include "FormBase.h"
 #include "ItemRow.h"
 #include "LookupRow.h"
+#include "MemberList.h"
 #include "Node.h"
 #include "VbArray.h"
 
@@ -267,6 +268,44 @@ public:
     void subPrint();
     CommonDialog CommonDialog1; // the printer dialog of subPrint
 
+    // ---- Module outline: the members of a class or module as child nodes of its item ----
+    // The outline under the selected node of tvwMain, tvwBookMarks or tvwSearchResults.
+    void ParseModule(const QString& strCode, long lngId);
+    void ParseModuleBk(const QString& strCode, long lngId);
+    void ParseModuleSrch(const QString& strCode, long lngId);
+    // The member lists of that item into the form's arrays, with no node made.
+    void GetArrays(long lngId);
+
+    // ---- Bookmarks ----
+    void FillTreeViewBookmarks(const QString& strUserId);
+    void AddBookmark();
+    void mnuBookMark_Click();
+    void mnuBookMarkA_Click();
+    void mnuDelBookmark_Click();
+    void tvwBookMarks_NodeClick(Node node);
+    void tvwBookMarks_GotFocus();
+    void tvwBookMarks_KeyUp(int& KeyCode, int Shift);
+    void tvwBookMarks_MouseDown(int Button, int Shift, int x, int y);
+
+    // ---- Search: the library search of the search tab, and the text search of the code pane
+    void cboCategory_Click();
+    void cboCodeType_Click();
+    void cboTestedOrUntested_Click();
+    void rdoSearchOption_Click(int Index);
+    void txtSearchString_GotFocus();
+    void txtSearchString_KeyPress(int& KeyAscii);
+    void cmdSearch_Click();
+    void FillTreeViewSearchResults();
+    void tvwSearchResults_NodeClick(Node node);
+    void tvwSearchResults_GotFocus();
+    void tvwSearchResults_LostFocus();
+    void tvwSearchResults_MouseDown(int Button, int Shift, int x, int y);
+    void mnuBookMarkSch_Click();
+    void mnuFind_Click();
+    void SearchForText();
+    void FindAndColor(long lngColor, const QString& strWord, bool blnNextOnly);
+    void RichTextBoxCode_KeyDown(int& KeyCode, int Shift);
+
     // ---- Window members ----
     int mintDragFormat = 0;         // clipboard format "Tarnwick" of the node drag
     QString mstrActiveTree;         // "Cats", "Main" or "BookMarks"
@@ -301,7 +340,20 @@ public:
     Node mnodMouseDown;                   // the node under the pointer at the last press
     bool mblnChildClick = false;          // a click on an outline node loads its module
     bool mblnTreeFocusToggle = false;     // flipped each time tvwMain loses the focus
-    QString mstrBookmarkSource;           // "Main" while the item tree had the focus last
+    QString mstrBookmarkSource;           // "Search" while tvwSearchResults has the focus
+    QString mstrFindText;                 // the word of the last text search
+    QString mstrSearchCodeType;           // cboCodeType at the last search
+    long mlngSearchItemId = 0;            // the search hit clicked last
+
+    // The member lists of the module parsed last, with the parser's bounds.
+    MemberList marrConstants;
+    MemberList marrModuleVars;
+    MemberList marrTypes;
+    MemberList marrEnums;
+    MemberList marrAPIDeclares;
+    MemberList marrProperties;
+    MemberList marrFunctions;
+    MemberList marrSubs;
 
 protected:
     void Form_Load() override;
@@ -319,6 +371,10 @@ private:
     void connectTrees();
     void fitToScreen();
     void connectPanes();
+    void connectBookmarks();
+    void connectSearch();
+    // The focus and keys of txtSearchString; true when the key is used up.
+    bool searchBoxEvent(QEvent* event);
     // The tab rights shared by the tab and code pane handlers.
     void DisableModifyCommands();
     void clearSourceFileFields(bool withVerInfo);
@@ -350,6 +406,13 @@ private:
     // The stored-file tabs for the file of that id, its revision list laid out afresh.
     void loadSourceFilePanes(long lngId);
     void setSelectionType(const QString& key, bool codeOnly);
+    // The outline of `code` under the selected node of `tree`; only tvwMain strips "Global ".
+    void buildOutline(TreeView& tree, const QString& code, long lngId, bool stripGlobal);
+    // A click on a group or member node: the module's panes by `loader`, then the group's or
+    // the member's text in the code pane.
+    void OutlineNodeClick(const Node& node, void (frmMain::*loader)(long));
+    // The path line of a search hit, from the combo boxes as they stand.
+    void ShowSearchPath(const QString& key, const QString& text);
 };
 
 } // namespace qs

@@ -223,8 +223,7 @@ void frmMain::tvwMain_NodeClick(Node node) {
         const bool admin = mnuAdmin->isVisible();
 
         if (selected && IsModuleMember(selected.Key())) {
-            // A member of a module outline: nothing may be changed or bookmarked there.  Loading
-            // its module and showing the member come with the outline, which sets mblnChildClick.
+            // A member of a module outline: nothing may be changed or bookmarked there.
             if (admin) {
                 mnuModify->setEnabled(false);
                 mnuBookMark->setEnabled(false);
@@ -232,6 +231,7 @@ void frmMain::tvwMain_NodeClick(Node node) {
                                         "DeleteNode", "BookMark", "ReName Item", "Edit"})
                     setButton(key, false);
             }
+            OutlineNodeClick(selected, &frmMain::GetCodeSnippet);
             restoreAfterItemClick(node, panelText);
             return;
         }

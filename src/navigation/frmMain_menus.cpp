@@ -120,7 +120,12 @@ void frmMain::connectMenus() {
     const Route routes[] = {
         {mnuLoginReturn, "mnuLoginReturn_Click", &frmMain::mnuLoginReturn_Click},
         {mnuExit, "mnuExit_Click", &frmMain::mnuExit_Click},
+        {mnuFind, "mnuFind_Click", &frmMain::mnuFind_Click},
+        {mnuBookMark, "mnuBookMark_Click", &frmMain::mnuBookMark_Click},
         {mnuBookMarkS, "mnuBookmarks_Click", &frmMain::mnuBookmarks_Click},
+        {mnuBookMarkSch, "mnuBookMarkSch_Click", &frmMain::mnuBookMarkSch_Click},
+        {mnuBookMarkA, "mnuBookMarkA_Click", &frmMain::mnuBookMarkA_Click},
+        {mnuDelBookmark, "mnuDelBookmark_Click", &frmMain::mnuDelBookmark_Click},
         {mnuUser, "mnuUser_Click", &frmMain::mnuUser_Click},
         {mnuOpenDatabase, "mnuOpenDatabase_Click", &frmMain::mnuOpenDatabase_Click},
         {mnuHelpContents, "mnuHelpContents_Click", &frmMain::mnuHelpContents_Click},

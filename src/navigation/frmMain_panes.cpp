@@ -131,7 +131,9 @@ void frmMain::GetCodeSnippet(long lngId) {
             ClearRevisionControls();
             return;
         }
-        const cSourceCode& record = *mobjSourceCode;
+        // The record stays held across the yield of the outline.
+        const std::shared_ptr<cSourceCode> held = mobjSourceCode;
+        const cSourceCode& record = *held;
         RichTextBoxCode->setTextRTF(record.Code());
         txtVersionNo->setText(QStringLiteral("1.0.0"));
         txtSourceAuthor->setText(record.AuthorFirstName() + QLatin1Char(' ') +
@@ -140,8 +142,9 @@ void frmMain::GetCodeSnippet(long lngId) {
         txtDateEntered->setText(DateString(record.DateEntered()));
         txtExample->setPlainText(record.Example());
         txtNotes->setPlainText(record.Notes());
-        // The outline of tvwMain's module (ParseModule, when ShouldParseModule holds) is not
-        // built yet.
+        if (ShouldParseModule(tvwMain->SelectedItem(), true, mblnChildClick,
+                              mblnVisualBasicCategory))
+            ParseModule(record.Code(), lngId);
         const QString newest = FillRevisionList(*lvwRevisionHistory, record.Revisions());
         if (!newest.isEmpty() && newest != QLatin1String("0")) {
             txtVersionNo->setText(newest);
@@ -174,7 +177,9 @@ void frmMain::GetCodeSnippetBk(long lngId) {
             ClearRevisionControls();
             return;
         }
-        const cSourceCode& record = *mobjSourceCode;
+        // The record stays held across the yield of the outline.
+        const std::shared_ptr<cSourceCode> held = mobjSourceCode;
+        const cSourceCode& record = *held;
         RichTextBoxCode->setTextRTF(record.Code());
         txtVersionNo->setText(QStringLiteral("1.0.0"));
         txtSourceAuthor->setText(record.AuthorFirstName() + QLatin1Char(' ') +
@@ -183,8 +188,9 @@ void frmMain::GetCodeSnippetBk(long lngId) {
         txtDateEntered->setText(DateString(record.DateEntered()));
         txtExample->setPlainText(record.Example());
         txtNotes->setPlainText(record.Notes());
-        // The outline of tvwBookMarks' module (ParseModuleBk, when ShouldParseModule holds) is
-        // not built yet.
+        if (ShouldParseModule(tvwBookMarks->SelectedItem(), false, mblnChildClick,
+                              mblnVisualBasicCategory))
+            ParseModuleBk(record.Code(), lngId);
         const QString newest = FillRevisionList(*lvwRevisionHistory, record.Revisions());
         if (!newest.isEmpty() && newest != QLatin1String("0")) {
             txtVersionNo->setText(newest);
@@ -217,7 +223,9 @@ void frmMain::GetCodeSnippetSrch(long lngId) {
             ClearRevisionControls();
             return;
         }
-        const cSourceCode& record = *mobjSourceCode;
+        // The record stays held across the yield of the outline.
+        const std::shared_ptr<cSourceCode> held = mobjSourceCode;
+        const cSourceCode& record = *held;
         RichTextBoxCode->setTextRTF(record.Code());
         txtVersionNo->setText(QStringLiteral("1.0.0"));
         txtSourceAuthor->setText(record.AuthorFirstName() + QLatin1Char(' ') +
@@ -226,8 +234,9 @@ void frmMain::GetCodeSnippetSrch(long lngId) {
         txtDateEntered->setText(DateString(record.DateEntered()));
         txtExample->setPlainText(record.Example());
         txtNotes->setPlainText(record.Notes());
-        // The outline of tvwSearchResults' module (ParseModuleSrch, when ShouldParseModule
-        // holds) is not built yet.
+        if (ShouldParseModule(tvwSearchResults->SelectedItem(), false, mblnChildClick,
+                              mblnVisualBasicCategory))
+            ParseModuleSrch(record.Code(), lngId);
         const QString newest = FillRevisionList(*lvwRevisionHistory, record.Revisions());
         if (!newest.isEmpty() && newest != QLatin1String("0")) {
             txtVersionNo->setText(newest);

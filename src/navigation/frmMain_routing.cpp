@@ -50,6 +50,8 @@ bool frmMain::eventFilter(QObject* watched, QEvent* event) {
         if (code == 0)
             return true;
     }
+    if (watched == txtSearchString && searchBoxEvent(event))
+        return true;
     return FormBase::eventFilter(watched, event);
 }
 

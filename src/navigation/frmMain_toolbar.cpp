@@ -51,9 +51,11 @@ const QHash<QString, Command>& toolBarCommands() {
         {QStringLiteral("Add Item"), [](frmMain& f) { f.AddItemCommand(); }},
         {QStringLiteral("AdvCopy"), [](frmMain& f) { f.AdvancedCopy(); }},
         {QStringLiteral("Back"), [](frmMain& f) { f.stepInTree(false); }},
+        {QStringLiteral("BookMark"), [](frmMain& f) { f.AddBookmark(); }},
         {QStringLiteral("BookMarks"), [](frmMain& f) { f.SSTabNavigate->setTab(1); }},
         {QStringLiteral("Copy"), [](frmMain&) { Copy(); }},
         {QStringLiteral("DeleteNode"), [](frmMain& f) { f.DeleteNodeCommand(); }},
+        {QStringLiteral("Find"), [](frmMain& f) { f.SearchForText(); }},
         {QStringLiteral("Forward"), [](frmMain& f) { f.stepInTree(true); }},
         {QStringLiteral("Open DataBase"),
          [](frmMain& f) {

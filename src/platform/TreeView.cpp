@@ -15,6 +15,8 @@
 #include <QPointer>
 #include <QScrollBar>
 #include <QStyledItemDelegate>
+#include <algorithm>
+#include <numeric>
 
 namespace qs {
 
@@ -503,15 +505,17 @@ void TreeView::keyReleaseEvent(QKeyEvent* event) {
         KeyUp(code, VbShift(event->modifiers()));
 }
 
+// A menu that pops up over the tree, or drops from the menu bar, takes no focus from it: the
+// tree neither loses nor gets the focus then.
 void TreeView::focusInEvent(QFocusEvent* event) {
     QTreeWidget::focusInEvent(event);
-    if (GotFocus)
+    if (GotFocus && event->reason() != Qt::PopupFocusReason)
         GotFocus();
 }
 
 void TreeView::focusOutEvent(QFocusEvent* event) {
     QTreeWidget::focusOutEvent(event);
-    if (LostFocus)
+    if (LostFocus && event->reason() != Qt::PopupFocusReason)
         LostFocus();
 }
 

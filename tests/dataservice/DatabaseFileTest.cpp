@@ -77,6 +77,8 @@ TEST_F(CreateDatabase, MakesMissingFoldersAndAnEmptyLibrary) {
                   .toString(),
               QStringLiteral("/x/Quillstone.ini"));
     EXPECT_EQ(raw.value(QStringLiteral("PRAGMA journal_mode")).toString(), QStringLiteral("wal"));
+    // A page holds a text item of a few KB whole: a search reads one page for each.
+    EXPECT_EQ(raw.value(QStringLiteral("PRAGMA page_size")).toInt(), 8192);
 }
 
 TEST_F(CreateDatabase, RefusesAnExistingFileAndLeavesIt) {

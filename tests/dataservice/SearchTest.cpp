@@ -266,6 +266,30 @@ TEST_F(SearchTest, WordStartsFollowTheIndexTokenizerOutsideAscii) {
     EXPECT_EQ(ids(1, QStringLiteral("valué")), QList<int>{});
 }
 
+// The service reads its candidates as the UTF-8 bytes they are stored in and finds an ASCII
+// piece there; the answers are those of the rule over the text, also at the characters where
+// the bytes alone would mislead.
+TEST_F(SearchTest, CandidatesReadAsStoredBytesAnswerAsTheirText) {
+    const QStringList texts{
+        QString::fromUtf8("\uFEFFvalue"),     QString::fromUtf8("e\u0301value"),
+        QString::fromUtf8(" \u0301value"),    QString::fromUtf8("\u00E9value"),
+        QString::fromUtf8("\U0001F600value"), QStringLiteral("xValue VALUE"),
+        QString::fromUtf8("\u212Aey"),        QString::fromUtf8("a.\u017Ftring")};
+    for (const QString& text : texts)
+        add(QStringLiteral("item"), text);
+    auto& tokens = TokenCharacters::forTokenizer(QStringLiteral("unicode61 remove_diacritics 0"),
+                                                 QStringLiteral("test"));
+    for (const char* query : {"value", "Value", "VALUE", "key", "a.string", ".STRING"}) {
+        const SearchMatcher rule(0, QLatin1String(query), tokens);
+        QList<int> expected;
+        for (int i = 0; i < texts.size(); ++i)
+            if (rule.rowMatches({QStringLiteral("item"), texts.at(i)}))
+                expected << items.at(i).id;
+        EXPECT_FALSE(expected.isEmpty()) << query;
+        EXPECT_EQ(ids(0, QLatin1String(query)), expected) << query;
+    }
+}
+
 TEST_F(SearchTest, AnEmptyOrBlankSearchFindsNothing) {
     add(QStringLiteral("anything"));
     for (int mode = 0; mode <= 2; ++mode) {

@@ -4,8 +4,10 @@
 #include "Globals.h"
 #include "TreeView.h"
 #include "cLibraryService.h"
+#include "cSecurityService.h"
 #include "cSourceCode.h"
 #include "cSourceFile.h"
+#include "cUser.h"
 #include "frmMain.h"
 #include "mRegConstants.h"
 #include "mRegistry.h"
@@ -58,6 +60,21 @@ int TreeWindow::addFile(const QString& description, int typeId, int parentId, bo
 
 int TreeWindow::addCategory(const QString& name) {
     return cLibraryService(mDatabase).AddCategory(name);
+}
+
+void TreeWindow::addUser(const QString& id, const QString& password) {
+    cUser user;
+    user.BeginEdit(0);
+    user.UserId(id);
+    user.Password(password);
+    user.FirstName(id);
+    user.LastName(QStringLiteral("Tester"));
+    user.Question(QStringLiteral("Pet"));
+    user.Answer(QStringLiteral("Rex"));
+    user.AccessLevel(1);
+    // The first user saves himself; the first saves the later ones.
+    const VbArray<UserRow> users = cSecurityService().GetUsers();
+    user.Save(users.isEmpty() ? id : users(1).UserId, 0);
 }
 
 frmMain& TreeWindow::open(const QString& accessType) {

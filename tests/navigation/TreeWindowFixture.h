@@ -29,6 +29,8 @@ protected:
     int addFile(const QString& description, int typeId = 101, int parentId = 0, bool folder = false,
                 int categoryId = 1);
     int addCategory(const QString& name);
+    // An administrator of the library, who may log in and keep bookmarks.
+    static void addUser(const QString& id, const QString& password = QStringLiteral("pw"));
 
     // Loads and shows the window for a user of that access type ("Admin", "User").
     frmMain& open(const QString& accessType = QStringLiteral("Admin"));

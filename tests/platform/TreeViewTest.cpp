@@ -712,3 +712,18 @@ TEST_F(TreeViewTest, ScrollLineMovesOneLineEitherWay) {
     tree.ScrollLine(-1);
     EXPECT_EQ(bar->value(), 0);
 }
+
+TEST_F(TreeViewTest, AMenuPoppingUpOverTheTreeRaisesNoFocusEvents) {
+    int got = 0;
+    int lost = 0;
+    tree.GotFocus = [&] { ++got; };
+    tree.LostFocus = [&] { ++lost; };
+    for (const Qt::FocusReason reason : {Qt::PopupFocusReason, Qt::MouseFocusReason}) {
+        QFocusEvent out(QEvent::FocusOut, reason);
+        QApplication::sendEvent(&tree, &out);
+        QFocusEvent in(QEvent::FocusIn, reason);
+        QApplication::sendEvent(&tree, &in);
+    }
+    EXPECT_EQ(got, 1);
+    EXPECT_EQ(lost, 1);
+}
