@@ -46,6 +46,10 @@ public:
         bool any = false;
         while (!mFile.atEnd()) {
             QByteArray raw = mFile.readLine();
+            if (raw.contains('\0')) { // no text file holds a null byte
+                mBinary = true;
+                return false;
+            }
             while (raw.endsWith('\n') || raw.endsWith('\r'))
                 raw.chop(1);
             QString piece = mUtf8 ? QString::fromUtf8(raw) : FromCp1252(raw);
@@ -66,9 +70,12 @@ public:
         return any;
     }
 
+    bool binary() const { return mBinary; }
+
 private:
     QFile& mFile;
     bool mUtf8 = false;
+    bool mBinary = false;
 };
 
 VbArray<QString> sortedNames(const QMap<QString, QString>& items) {
@@ -144,6 +151,13 @@ void cApiLoader::LoadFile(const QString& strPath) {
             typeName = t.captured(1);
             typeLines = QStringList{text};
         }
+    }
+    if (reader.binary()) {
+        clear();
+        throw QsError(321, QStringLiteral("cApiLoader:LoadFile;"),
+                      QStringLiteral("Invalid file format: %1 is not a text file of API "
+                                     "declarations.")
+                          .arg(strPath));
     }
     mConstantNames = sortedNames(mConstants);
     mDeclareNames = sortedNames(mDeclares);
