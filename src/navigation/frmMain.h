@@ -159,6 +159,7 @@ public:
     void mnuLoginReturn_Click();
     void mnuExit_Click();
     void mnuBookmarks_Click();
+    void mnuApiViewer_Click();
     void mnuUser_Click();
     void mnuOpenDatabase_Click();
     void mnuHelpContents_Click();

@@ -119,6 +119,7 @@ void frmMain::connectMenus() {
         {mnuLoginReturn, "mnuLoginReturn_Click", &frmMain::mnuLoginReturn_Click},
         {mnuExit, "mnuExit_Click", &frmMain::mnuExit_Click},
         {mnuBookMarkS, "mnuBookmarks_Click", &frmMain::mnuBookmarks_Click},
+        {mnuApiViewer, "mnuApiViewer_Click", &frmMain::mnuApiViewer_Click},
         {mnuUser, "mnuUser_Click", &frmMain::mnuUser_Click},
         {mnuOpenDatabase, "mnuOpenDatabase_Click", &frmMain::mnuOpenDatabase_Click},
         {mnuHelpContents, "mnuHelpContents_Click", &frmMain::mnuHelpContents_Click},
