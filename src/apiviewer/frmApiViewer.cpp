@@ -243,11 +243,16 @@ void frmApiViewer::txtSearch_KeyUp(int& keyCode, int shift) {
             return;
         const QString search = txtSearch->Text();
         const int n = search.size();
+        // The list shows the chosen array from its first name on; the walk reads the array,
+        // which is much quicker than asking the list for each entry.
+        const VbArray<QString>& names = ChosenNames();
+        const bool mirrored = names.UBound() == count;
         for (mintSearchPos = 0; mintSearchPos < count; ++mintSearchPos) {
-            // Upper-cased character by character, both sides, as the comparison is meant.
-            const QString entry = lstAvailItems->List(mintSearchPos);
+            const QString entry =
+                mirrored ? names.rows().at(mintSearchPos) : lstAvailItems->List(mintSearchPos);
             if (entry.size() < n)
                 continue;
+            // Upper-cased character by character, both sides, as the comparison is meant.
             int i = 0;
             while (i < n && entry.at(i).toUpper() == search.at(i).toUpper())
                 ++i;
