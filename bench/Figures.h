@@ -20,5 +20,11 @@ void FigureStoredFile(const BenchContext& context, int megabytes);
 // A module of about 1 MB split into its members by cCodeParser, beside a plain split of the same
 // text into lines.
 void FigureParseModule(const BenchContext& context);
+// An API file of `entries` declarations (constants, Declares and types as real files mix them)
+// loaded into the API viewer through its Load command, beside reading the file into lines.
+void FigureApiLoad(const BenchContext& context, const QString& folder, int entries);
+// The API viewer's search as you type over a list of `entries` names: each key from its press
+// to the list repainted, beside finding the first prefix match in a plain list.
+void FigureApiTypeAhead(const BenchContext& context, const QString& folder, int entries);
 
 } // namespace qs::bench
