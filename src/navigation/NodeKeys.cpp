@@ -195,6 +195,19 @@ int TypeCodeOf(const QString& key) {
     return code;
 }
 
+QString TypeName(int typeId) {
+    switch (typeId) {
+    case kCodeSnippet:
+        return QStringLiteral("Code Snippet");
+    case kClassModule:
+        return QStringLiteral("Class Module");
+    case kGeneralModule:
+        return QStringLiteral("General Module");
+    default: // "Article", "Component" and "Tip" are their own words
+        return typeWord(typeId);
+    }
+}
+
 bool IsFolder(const QString& key, const QString& image) {
     return image == QLatin1String("ClosedFolder") || image == QLatin1String("OpenFolder") ||
            key.contains(QLatin1String("Folder"));

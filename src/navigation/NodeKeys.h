@@ -76,6 +76,9 @@ int IdOf(const QString& key);
 // The type code a key names: "Code" 201, "Tip" 202, "Class" 203, "Module" 204, "Article" 101,
 // "Component" 102, tested in that order with the last match winning; 0 for none.
 int TypeCodeOf(const QString& key);
+// The name of a type code as the selection globals carry it ("Code Snippet", "Tip",
+// "Class Module", "General Module", "Article", "Component"); empty for any other code.
+QString TypeName(int typeId);
 // A folder: the image is "ClosedFolder" or "OpenFolder", or the key holds "Folder".
 bool IsFolder(const QString& key, const QString& image);
 // An item's image: "TestedSnippet", "UnTestedSnippet", "Tip", "Class3", "Module", "Article",

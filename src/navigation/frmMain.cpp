@@ -57,6 +57,8 @@ frmMain::frmMain() : FormBase(QStringLiteral("frmMain")) {
     buildMenus();
     buildToolBar();
     connectMenus();
+    connectTrees();
+    connectPanes();
 }
 
 frmMain::~frmMain() = default;
@@ -71,6 +73,7 @@ void frmMain::Form_Load() {
         mstrFirstCategoryClick = QStringLiteral("Yes");
         mstrFirstMainClick = QStringLiteral("Yes");
         StartUp();
+        SettingCategory();
         InitControls();
         CenterOnScreen();
         if (gstrAccessType != QLatin1String("Admin"))
@@ -93,13 +96,17 @@ void frmMain::ApplyAccessLevel() {
     mnuBackup->setVisible(false);
     mnuCompact->setVisible(false);
     mnuNewDatabase->setVisible(false);
-    for (const char* key : kAdminButtons)
-        tbToolBar->Buttons(QString::fromLatin1(key)).setVisible(false);
+    // A hidden button is off as well, so the tree keys that test a button stay shut too.
+    for (const char* key : kAdminButtons) {
+        Button& button = tbToolBar->Buttons(QString::fromLatin1(key));
+        button.setVisible(false);
+        button.setEnabled(false);
+    }
 }
 
 void frmMain::StartUp() {
     try {
-        gobjLibrary = std::make_shared<cLibraryService>();
+        NewLibrary();
         mblnViewBookMarks =
             GetRegSetting(QString::fromLatin1(REG_KEY_TOOLBARSETTINGS),
                           QString::fromLatin1(REG_VAL_VIEWBOOKMARKS), REG_DEF_VIEWBOOKMARKS)
@@ -121,6 +128,7 @@ void frmMain::StartUp() {
                      false);
         FillComboBox(QStringLiteral("Category"), cboCategory, false, false, true, QString(), true,
                      true);
+        FillTreeViewCategory();
     } catch (...) {
         HandleFailure("frmMain:StartUp;");
     }
@@ -181,6 +189,11 @@ void frmMain::mnuUser_Click() {
         Hide();
         Forms::get<frmUser>().Show(vbModal);
         Show(vbModeless);
+        // The tree that had the focus is drawn afresh.
+        if (mstrActiveTree == QLatin1String("Main"))
+            tvwMain->viewport()->update();
+        else if (mstrActiveTree == QLatin1String("Cats"))
+            tvwCategories->viewport()->update();
         host().setMousePointer(vbDefault);
     } catch (...) {
         HandleFailure("frmMain:mnuUser_Click;");

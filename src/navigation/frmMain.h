@@ -1,9 +1,16 @@
 #pragma once
 
 #include "FormBase.h"
+#include "ItemRow.h"
+#include "LookupRow.h"
+#include "Node.h"
+#include "VbArray.h"
+
+#include <memory>
 
 class QAction;
 class QCheckBox;
+class QKeyEvent;
 class QLabel;
 class QLineEdit;
 class QMenuBar;
@@ -14,15 +21,19 @@ class QRadioButton;
 namespace qs {
 
 class Button;
+class ColumnHeader;
 class ComboBox;
 class ListBox;
 class ListView;
+class Node;
 class RichTextBox;
 class SSTab;
 class StatusBar;
 class Timer;
 class Toolbar;
 class TreeView;
+class cSourceCode;
+class cSourceFile;
 
 // The main window: category tree, item tree, bookmarks and search on the left, the panes of the
 // selected item on the right, the menu bar and the tool bar.  Its members are defined in the
@@ -165,9 +176,45 @@ public:
     void mnuHelpContents_Click();
     void mnuHelpSearch_Click();
     void mnuAboutApp_Click();
+    void mnuHelpOnHelp_Click();
     void tbToolBar_ButtonClick(Button& button);
     // True when a tool-bar button of this tag reaches a command.
     static bool ToolBarRoutes(const QString& tag);
+    // The tool bar's own commands: Back (false) and Forward (true) on the tree that had the
+    // focus last; the delete with its root check; the add that tells where categories go.
+    void stepInTree(bool forward);
+    void DeleteNodeCommand();
+    void AddItemCommand();
+
+    // ---- Keys of the window: F1 opens the help of the control that has the focus ----
+    void Form_KeyDown(int& KeyCode, int Shift);
+    void txtNotes_KeyDown(int& KeyCode, int Shift);
+
+    // ---- Category tree ----
+    void FillTreeViewCategory();
+    void SettingCategory();
+    void tvwCategories_NodeClick(Node node);
+    void tvwCategories_MouseDown(int Button, int Shift, int x, int y);
+    void tvwCategories_MouseUp(int Button, int Shift, int x, int y);
+    void tvwCategories_KeyUp(int& KeyCode, int Shift);
+    void tvwCategories_GotFocus();
+    void tvwCategories_Expand(Node node);
+    void tvwCategories_Collapse(Node node);
+    void tvwCategories_BeforeLabelEdit(bool& Cancel);
+    void tvwCategories_AfterLabelEdit(bool& Cancel, const QString& NewString);
+
+    // ---- Item tree ----
+    void FillTreeViewMain(long lngTypeId, long lngCategoryId, const QString& strTable);
+    void tvwMain_NodeClick(Node node);
+    void tvwMain_MouseDown(int Button, int Shift, int x, int y);
+    void tvwMain_MouseUp(int Button, int Shift, int x, int y);
+    void tvwMain_KeyUp(int& KeyCode, int Shift);
+    void tvwMain_Expand(Node node);
+    void tvwMain_Collapse(Node node);
+    void tvwMain_BeforeLabelEdit(bool& Cancel);
+    void tvwMain_AfterLabelEdit(bool& Cancel, const QString& NewString);
+    void tvwMain_GotFocus();
+    void tvwMain_LostFocus();
 
     // ---- Item panes: the clear helpers and the whole-window lock ----
     void ClearOriginalControls();
@@ -175,6 +222,37 @@ public:
     void ClearControlsSourceFileTab();
     void ClearAllControls();
     void EnableControls(bool on);
+
+    // ---- Item panes: loading the selected item ----
+    // The code tabs for the item of tvwMain, tvwBookMarks or tvwSearchResults.
+    void GetCodeSnippet(long lngId);
+    void GetCodeSnippetBk(long lngId);
+    void GetCodeSnippetSrch(long lngId);
+    // True when a load should unfold the module of `node` into its outline: no outline click is
+    // loading it, the category is a Visual Basic one, the node has no children yet, and it stands
+    // for a class or module (tvwMain reads its key, the other two trees its image).
+    static bool ShouldParseModule(const Node& node, bool blnMainTree, bool blnChildClick,
+                                  bool blnVisualBasicCategory);
+    // The source file tabs for a stored file.
+    void SourceFileInfoArtOrComp(long lngId);
+    void LoadVerInfoCbo();
+    void lboxVerInfo_Click();
+    void SetPicIcon();
+    // The two columns of a revision list.
+    void lvwRevHistSetup(ListView* list);
+    void lvwRevisionHistory_Click();
+    void lvwRevisionHistory_ColumnClick(ColumnHeader& header);
+    void lstSrcFileRevHist_Click();
+    void lstSrcFileRevHist_ColumnClick(ColumnHeader& header);
+    // Rights while the focus leaves the trees.
+    void SSTabAboutCode_Click();
+    void SSTabAboutCode_GotFocus();
+    void SSTabNavigate_Click();
+    void SSTabNavigate_GotFocus();
+    void RichTextBoxCode_GotFocus();
+    void RichTextBoxCode_MouseDown(int button, int shift, int x, int y);
+    // Shows the sub-menu of `menu` at the pointer and returns when it closes.
+    void PopupMenu(QAction* menu);
 
     // ---- Window members ----
     int mintDragFormat = 0;         // clipboard format "Tarnwick" of the node drag
@@ -188,11 +266,36 @@ public:
     bool mblnFilling = false;
     bool mblnFindHit = false;   // a text search has hit something in RichTextBoxCode
     QString mstrDatabaseFolder; // folder of the database last chosen or made here
+    std::shared_ptr<cSourceCode> mobjSourceCode; // the last code item loaded; null for none
+    std::shared_ptr<cSourceFile> mobjSourceFile; // the last stored file loaded; null for none
+    QString mstrFileFullPath;                    // of the last stored file loaded
+    QString mstrFileName;
+    bool mblnSkipColumnToggle = false;    // True for one forced sort of a revision list
+    int mintSelectFirstRow = 0;           // 1 for one forced click on a revision list
+    bool mblnAboutCodeTabClicked = false; // SSTabAboutCode_Click has had its first run
+    bool mblnNavigateTabClicked = false;  // SSTabNavigate_Click has had its first run
+
+    // The lookups behind the category tree, 1-based, and the key of each category in the order
+    // of marrCategories.
+    VbArray<LookupRow> marrCategories;
+    VbArray<LookupRow> marrCodeTypes;
+    VbArray<LookupRow> marrFileTypes;
+    VbArray<QString> marrCategoryKeys;
+    VbArray<ItemRow> marrItems;           // the rows of the last FillTreeViewMain
+    bool mblnVisualBasicCategory = false; // the selected category's name holds "Visual Basic"
+    QString mstrCategoryButton;           // "Right" while the right button is down on the tree
+    QString mstrTreeAction;               // "Expand" or "Collapse", the category tree's last
+    Node mnodMouseDown;                   // the node under the pointer at the last press
+    bool mblnChildClick = false;          // a click on an outline node loads its module
+    bool mblnTreeFocusToggle = false;     // flipped each time tvwMain loses the focus
+    QString mstrBookmarkSource;           // "Main" while the item tree had the focus last
 
 protected:
     void Form_Load() override;
     void Form_Activate() override;
     void Form_Unload(int& cancel) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void buildLayout();
@@ -200,9 +303,37 @@ private:
     void buildMenus();
     void buildToolBar();
     void connectMenus();
+    void connectTrees();
+    void fitToScreen();
+    void connectPanes();
+    // The tab rights shared by the tab and code pane handlers.
+    void DisableModifyCommands();
     void clearSourceFileFields(bool withVerInfo);
     // Hides the commands that change anything from a user who is not an administrator.
     void ApplyAccessLevel();
+
+    // Helpers of the trees and the routing.
+    void setButton(const char* key, bool on);
+    bool buttonOn(const char* key) const;
+    // Shows the empty twin of tvwMain (true) or tvwMain itself (false).
+    void showTreeCopy(bool copy);
+    // The tabs of a stored file or of a text item, by the category tree's type node.
+    void showItemTabs(bool sourceFile);
+    bool categoryShowsFiles(bool byTextToo) const;
+    // Status text and the Visual Basic flag of a category-tree node.
+    void categoryStatus(const Node& node);
+    // The first description of the rows equal to `text`, empty when none.
+    static QString lookupMatch(const VbArray<LookupRow>& rows, const QString& text);
+    void saveCategoryPlace(const QString& lastNode, const QString& lastCodeType);
+    void categoryNodeFolderImage(Node node, bool expanded);
+    // The second pass of the item tree's fill: every node under the parent its tag names.
+    void reparentItems();
+    // The rights of the item tree's node; `mouseDown` for the variant of a press.
+    void setItemRights(const Node& node, bool mouseDown);
+    void restoreAfterItemClick(const Node& node, const QString& panelText);
+    // The stored-file tabs for the file of that id, its revision list laid out afresh.
+    void loadSourceFilePanes(long lngId);
+    void setSelectionType(const QString& key, bool codeOnly);
 };
 
 } // namespace qs

@@ -13,6 +13,7 @@
 #include "TreeView.h"
 
 #include <QCheckBox>
+#include <QFontDatabase>
 #include <QFormLayout>
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -22,6 +23,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScreen>
 #include <QSplitter>
 #include <QVBoxLayout>
 
@@ -63,6 +65,8 @@ void frmMain::buildLayout() {
     auto* left = new QWidget(this);
     lblCategories = caption(left, "lblCategories", QStringLiteral("Quillstone Catagories:"));
     tvwCategories = new TreeView(QStringLiteral("tvwCategories"), left);
+    // A label edit starts from the Rename command only, so nobody renames by a second click.
+    tvwCategories->setLabelEdit(tvwManual);
 
     SSTabNavigate = new SSTab(QStringLiteral("SSTabNavigate"), left);
     SSTabNavigate->setTabs(3);
@@ -72,6 +76,7 @@ void frmMain::buildLayout() {
 
     QWidget* mainPage = SSTabNavigate->Page(0);
     tvwMain = new TreeView(QStringLiteral("tvwMain"), mainPage);
+    tvwMain->setLabelEdit(tvwManual);
     tvwMainCopy = new TreeView(QStringLiteral("tvwMainCopy"), mainPage);
     tvwMainCopy->setVisible(false);
     auto* mainBox = new QVBoxLayout(mainPage);
@@ -117,11 +122,21 @@ void frmMain::buildLayout() {
     searchBox->addLayout(options);
     searchBox->addWidget(tvwSearchResults, 1);
 
+    // The category tree and the navigation tabs share the left side by a splitter of their own.
+    auto* categoryBox = new QWidget(left);
+    auto* categoryLayout = new QVBoxLayout(categoryBox);
+    categoryLayout->setContentsMargins(0, 0, 0, 0);
+    categoryLayout->addWidget(lblCategories);
+    categoryLayout->addWidget(tvwCategories, 1);
+    auto* splitLeft = named(new QSplitter(Qt::Vertical, left), "splitLeft");
+    splitLeft->addWidget(categoryBox);
+    splitLeft->addWidget(SSTabNavigate);
+    splitLeft->setStretchFactor(0, 2);
+    splitLeft->setStretchFactor(1, 3);
+    splitLeft->setChildrenCollapsible(false);
     auto* leftBox = new QVBoxLayout(left);
     leftBox->setContentsMargins(0, 0, 0, 0);
-    leftBox->addWidget(lblCategories);
-    leftBox->addWidget(tvwCategories, 2);
-    leftBox->addWidget(SSTabNavigate, 3);
+    leftBox->addWidget(splitLeft);
 
     // ---- Right: description, path, and the panes of a text item or a stored file ----
     auto* right = new QWidget(this);
@@ -142,6 +157,10 @@ void frmMain::buildLayout() {
     RichTextBoxHold = new RichTextBox(QStringLiteral("RichTextBoxHold"), codePage);
     RichTextBoxVis->setVisible(false);
     RichTextBoxHold->setVisible(false);
+    // Code reads in columns.
+    const QFont fixed = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    for (RichTextBox* pane : {RichTextBoxCode, RichTextBoxVis, RichTextBoxHold})
+        pane->setFont(fixed);
     auto* codeBox = new QVBoxLayout(codePage);
     codeBox->setContentsMargins(2, 2, 2, 2);
     codeBox->addWidget(RichTextBoxCode);
@@ -174,6 +193,7 @@ void frmMain::buildLayout() {
 
     QWidget* examplePage = SSTabAboutCode->Page(2);
     txtExample = memo(examplePage, "txtExample");
+    txtExample->setFont(fixed);
     auto* exampleBox = new QVBoxLayout(examplePage);
     exampleBox->setContentsMargins(2, 2, 2, 2);
     exampleBox->addWidget(txtExample);
@@ -194,6 +214,10 @@ void frmMain::buildLayout() {
     split->addWidget(right);
     split->setStretchFactor(0, 2);
     split->setStretchFactor(1, 3);
+    split->setChildrenCollapsible(false);
+    // Both sides share the room the window gains, by the stretch above.
+    left->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    right->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 
     auto* main = new QVBoxLayout(this);
     main->setContentsMargins(4, 0, 4, 0);
@@ -202,7 +226,20 @@ void frmMain::buildLayout() {
     main->addWidget(tbToolBar);
     main->addWidget(split, 1);
     main->addWidget(sbStatusBar);
-    resize(960, 680);
+    fitToScreen();
+}
+
+void frmMain::fitToScreen() {
+    // The window opens at its usual size, or at most nine tenths of the screen it is on, and
+    // keeps room for both sides when made small.
+    QSize size(960, 680);
+    if (const QScreen* screen = this->screen()) {
+        const QSize room = screen->availableGeometry().size() * 9 / 10;
+        size = size.boundedTo(room);
+    }
+    setMinimumSize(QSize(480, 360).boundedTo(size));
+    resize(size);
+    setSizeGripEnabled(true);
 }
 
 void frmMain::buildSourceFileTabs(QWidget* owner) {

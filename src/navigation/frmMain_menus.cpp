@@ -4,10 +4,12 @@
 
 #include "EventWiring.h"
 #include "Toolbar.h"
+#include "TreeView.h"
 
 #include <QAction>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPlainTextEdit>
 
 namespace qs {
 
@@ -124,6 +126,7 @@ void frmMain::connectMenus() {
         {mnuOpenDatabase, "mnuOpenDatabase_Click", &frmMain::mnuOpenDatabase_Click},
         {mnuHelpContents, "mnuHelpContents_Click", &frmMain::mnuHelpContents_Click},
         {mnuHelpSearch, "mnuHelpSearch_Click", &frmMain::mnuHelpSearch_Click},
+        {mnuHelpOnHelp, "mnuHelpOnHelp_Click", &frmMain::mnuHelpOnHelp_Click},
         {mnuAboutApp, "mnuAboutApp_Click", &frmMain::mnuAboutApp_Click},
     };
     for (const Route& r : routes)
@@ -131,6 +134,51 @@ void frmMain::connectMenus() {
              [this, member = r.member] { (this->*member)(); });
     Wire(this, tbToolBar->ButtonClick, "tbToolBar_ButtonClick",
          [this](Button& button) { tbToolBar_ButtonClick(button); });
+}
+
+void frmMain::connectTrees() {
+    TreeView* const cats = tvwCategories;
+    Wire(this, cats->NodeClick, "tvwCategories_NodeClick",
+         [this](Node node) { tvwCategories_NodeClick(node); });
+    Wire(this, cats->MouseDown, "tvwCategories_MouseDown",
+         [this](int button, int shift, int x, int y) {
+             tvwCategories_MouseDown(button, shift, x, y);
+         });
+    Wire(this, cats->MouseUp, "tvwCategories_MouseUp", [this](int button, int shift, int x, int y) {
+        tvwCategories_MouseUp(button, shift, x, y);
+    });
+    Wire(this, cats->KeyUp, "tvwCategories_KeyUp",
+         [this](int& code, int shift) { tvwCategories_KeyUp(code, shift); });
+    Wire(this, cats->GotFocus, "tvwCategories_GotFocus", [this] { tvwCategories_GotFocus(); });
+    Wire(this, cats->Expand, "tvwCategories_Expand",
+         [this](Node node) { tvwCategories_Expand(node); });
+    Wire(this, cats->Collapse, "tvwCategories_Collapse",
+         [this](Node node) { tvwCategories_Collapse(node); });
+    Wire(this, cats->BeforeLabelEdit, "tvwCategories_BeforeLabelEdit",
+         [this](bool& cancel) { tvwCategories_BeforeLabelEdit(cancel); });
+    Wire(this, cats->AfterLabelEdit, "tvwCategories_AfterLabelEdit",
+         [this](bool& cancel, const QString& text) { tvwCategories_AfterLabelEdit(cancel, text); });
+
+    TreeView* const items = tvwMain;
+    Wire(this, items->NodeClick, "tvwMain_NodeClick",
+         [this](Node node) { tvwMain_NodeClick(node); });
+    Wire(this, items->MouseDown, "tvwMain_MouseDown",
+         [this](int button, int shift, int x, int y) { tvwMain_MouseDown(button, shift, x, y); });
+    Wire(this, items->MouseUp, "tvwMain_MouseUp",
+         [this](int button, int shift, int x, int y) { tvwMain_MouseUp(button, shift, x, y); });
+    Wire(this, items->KeyUp, "tvwMain_KeyUp",
+         [this](int& code, int shift) { tvwMain_KeyUp(code, shift); });
+    Wire(this, items->Expand, "tvwMain_Expand", [this](Node node) { tvwMain_Expand(node); });
+    Wire(this, items->Collapse, "tvwMain_Collapse", [this](Node node) { tvwMain_Collapse(node); });
+    Wire(this, items->BeforeLabelEdit, "tvwMain_BeforeLabelEdit",
+         [this](bool& cancel) { tvwMain_BeforeLabelEdit(cancel); });
+    Wire(this, items->AfterLabelEdit, "tvwMain_AfterLabelEdit",
+         [this](bool& cancel, const QString& text) { tvwMain_AfterLabelEdit(cancel, text); });
+    Wire(this, items->GotFocus, "tvwMain_GotFocus", [this] { tvwMain_GotFocus(); });
+    Wire(this, items->LostFocus, "tvwMain_LostFocus", [this] { tvwMain_LostFocus(); });
+
+    // txtNotes answers F1 itself, whether or not the key would reach the window.
+    txtNotes->installEventFilter(this);
 }
 
 } // namespace qs

@@ -47,7 +47,11 @@ const ToolButton kButtons[] = {
 using Command = void (*)(frmMain&);
 const QHash<QString, Command>& toolBarCommands() {
     static const QHash<QString, Command> commands = {
+        {QStringLiteral("Add Item"), [](frmMain& f) { f.AddItemCommand(); }},
+        {QStringLiteral("Back"), [](frmMain& f) { f.stepInTree(false); }},
         {QStringLiteral("BookMarks"), [](frmMain& f) { f.SSTabNavigate->setTab(1); }},
+        {QStringLiteral("DeleteNode"), [](frmMain& f) { f.DeleteNodeCommand(); }},
+        {QStringLiteral("Forward"), [](frmMain& f) { f.stepInTree(true); }},
         {QStringLiteral("Open DataBase"),
          [](frmMain& f) {
              f.SSTabNavigate->setTab(0);

@@ -3,6 +3,8 @@
 #include <QString>
 #include <QStringList>
 
+class QMenu;
+
 namespace qs {
 
 class FormBase;
@@ -76,6 +78,9 @@ public:
     virtual QString fileDialog(const FileDialogRequest& request) = 0;
     // Shows a form modally and returns when it is hidden or unloaded.
     virtual void showModal(FormBase& form) = 0;
+    // PopupMenu: shows the menu at the pointer and returns once it closes; an entry chosen there
+    // runs its command through its own wiring.
+    virtual void popupMenu(QMenu& menu) = 0;
 
     virtual void clipboardClear() = 0;
     virtual void clipboardSetText(const QString& text) = 0;

@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QCoreApplication>
+#include <QCursor>
 #include <QDesktopServices>
 #include <QDir>
 #include <QEvent>
@@ -13,6 +14,7 @@
 #include <QFileInfo>
 #include <QInputDialog>
 #include <QLockFile>
+#include <QMenu>
 #include <QMessageBox>
 #include <QPrintDialog>
 #include <QPrinter>
@@ -223,6 +225,11 @@ void QtHost::showModal(FormBase& form) {
     }
     if (guard && !guard->isVisible())
         guard->setWindowModality(before);
+}
+
+void QtHost::popupMenu(QMenu& menu) {
+    const Forms::YieldScope yielding;
+    menu.exec(QCursor::pos());
 }
 
 void QtHost::clipboardClear() {

@@ -24,6 +24,7 @@ public:
                      const QString& defaultText) override;
     QString fileDialog(const FileDialogRequest& request) override;
     void showModal(FormBase& form) override;
+    void popupMenu(QMenu& menu) override;
 
     void clipboardClear() override;
     void clipboardSetText(const QString& text) override;

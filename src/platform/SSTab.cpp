@@ -2,6 +2,9 @@
 
 #include "QsError.h"
 
+#include <QEvent>
+#include <QTabBar>
+
 namespace qs {
 
 namespace {
@@ -18,6 +21,15 @@ SSTab::SSTab(const QString& name, QWidget* parent) : QTabWidget(parent) {
         if (Click && previous != index)
             Click(previous);
     });
+    // A click on a caption gives the tab row the focus, as the Tab key does.
+    tabBar()->setFocusPolicy(Qt::StrongFocus);
+    tabBar()->installEventFilter(this);
+}
+
+bool SSTab::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == tabBar() && event->type() == QEvent::FocusIn && GotFocus)
+        GotFocus();
+    return QTabWidget::eventFilter(watched, event);
 }
 
 void SSTab::setTab(int tab) {

@@ -29,6 +29,12 @@ public:
     QWidget* Page(int tab) const;
 
     std::function<void(int previousTab)> Click;
+    // The tab row takes the focus (a click on a caption, or the Tab key); a control on a page
+    // taking it raises nothing here.
+    std::function<void()> GotFocus;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     int mCurrent = -1;

@@ -82,12 +82,13 @@ TreeView::TreeView(const QString& name, QWidget* parent) : QTreeWidget(parent), 
     setEditTriggers(QAbstractItemView::SelectedClicked | QAbstractItemView::EditKeyPressed);
     connect(this, &QTreeWidget::currentItemChanged, this,
             [this](QTreeWidgetItem* current, QTreeWidgetItem*) { onCurrentItemChanged(current); });
+    // A node without children has nothing to show or hide: it raises neither event.
     connect(this, &QTreeWidget::itemExpanded, this, [this](QTreeWidgetItem* item) {
-        if (Expand && !mQuiet)
+        if (Expand && !mQuiet && item->childCount() > 0)
             Expand(nodeOf(item));
     });
     connect(this, &QTreeWidget::itemCollapsed, this, [this](QTreeWidgetItem* item) {
-        if (Collapse && !mQuiet)
+        if (Collapse && !mQuiet && item->childCount() > 0)
             Collapse(nodeOf(item));
     });
     connect(itemDelegate(), &QAbstractItemDelegate::closeEditor, this, [this] { endLabelEdit(); });

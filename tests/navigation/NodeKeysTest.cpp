@@ -77,6 +77,11 @@ TEST(NodeKeys, KeysOfEveryTreeReadBackToTheirIdFamilyAndType) {
     EXPECT_EQ(SearchKey(204, 31), QStringLiteral("SRCHSC31"));
     // Text comparison: the last word that matches wins, in any case.
     EXPECT_EQ(TypeCodeOf(QStringLiteral("sc5moduleTESTED")), 204);
+    EXPECT_EQ(TypeName(TypeCodeOf(QStringLiteral("SC5CodeTested"))),
+              QStringLiteral("Code Snippet"));
+    EXPECT_EQ(TypeName(203), QStringLiteral("Class Module"));
+    EXPECT_EQ(TypeName(102), QStringLiteral("Component"));
+    EXPECT_EQ(TypeName(205), QString());
 }
 
 TEST(NodeKeys, OutlineKeysAreMembersAndCarryModuleIdAndIndex) {

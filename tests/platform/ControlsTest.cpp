@@ -14,8 +14,11 @@
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QImage>
+#include <QLineEdit>
 #include <QScrollBar>
 #include <QStyle>
+#include <QTabBar>
+#include <QTest>
 #include <QToolButton>
 #include <gtest/gtest.h>
 
@@ -297,6 +300,24 @@ TEST(SSTab, TabChangesClickWithThePreviousTab) {
     EXPECT_EQ(raised([&] { tabs.Page(-1); }), 380);
     tabs.setTabs(2);
     EXPECT_EQ(tabs.Tabs(), 2);
+}
+
+TEST(SSTab, ClickOnACaptionRaisesGotFocusAndAControlOnAPageDoesNot) {
+    QWidget window;
+    auto* tabs = new SSTab("SSTabAboutCode", &window);
+    tabs->setTabs(2);
+    auto* field = new QLineEdit(tabs->Page(1));
+    int focused = 0;
+    tabs->GotFocus = [&] { ++focused; };
+    window.show();
+    QApplication::setActiveWindow(&window);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+
+    QTest::mouseClick(tabs->tabBar(), Qt::LeftButton, {}, tabs->tabBar()->tabRect(1).center());
+    EXPECT_EQ(tabs->Tab(), 1);
+    EXPECT_EQ(focused, 1);
+    field->setFocus();
+    EXPECT_EQ(focused, 1);
 }
 
 namespace {

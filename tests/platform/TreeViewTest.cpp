@@ -318,7 +318,7 @@ TEST_F(TreeViewTest, KeyDownSeesKeyCodesAndCanSwallowTheKey) {
     EXPECT_EQ(tree.SelectedItem(), root);
 }
 
-TEST_F(TreeViewTest, ExpandEventsFollowCodeButNotAMove) {
+TEST_F(TreeViewTest, ExpandEventsFollowCodeButNotAMoveNorALeaf) {
     Node a = tree.Nodes.Add("ROOT", tvwChild, "A", "a", "ClosedFolder");
     tree.Nodes.Add("A", tvwChild, "A1", "a1");
     Node b = tree.Nodes.Add("ROOT", tvwChild, "B", "b");
@@ -328,6 +328,10 @@ TEST_F(TreeViewTest, ExpandEventsFollowCodeButNotAMove) {
     a.setExpanded(true);
     a.setParent(b);
     a.setExpanded(false);
+    // A leaf has nothing to expand: no event.
+    Node leaf = tree.Nodes.Add("ROOT", tvwChild, "C", "c");
+    leaf.setExpanded(true);
+    leaf.setExpanded(false);
     EXPECT_EQ(events, QStringList({"+A", "-A"}));
 }
 

@@ -1,5 +1,6 @@
 #include "ScriptedHost.h"
 
+#include <QMenu>
 #include <QPointer>
 #include <gtest/gtest.h>
 
@@ -258,6 +259,14 @@ int ScriptedHost::shellExecute(const QString& verb, const QString& file, const Q
         text += QStringLiteral(" (in ") + folder + QStringLiteral(")");
     record(QStringLiteral("Shell"), verb, text, show).answer = QString::number(mShellResult);
     return mShellResult;
+}
+
+void ScriptedHost::popupMenu(QMenu& menu) {
+    QStringList shown;
+    for (const QAction* entry : menu.actions())
+        if (entry->isVisible())
+            shown << entry->objectName();
+    record(QStringLiteral("PopupMenu"), shown.join(QLatin1Char(',')), menu.objectName(), 0);
 }
 
 bool ScriptedHost::showHelp(const QString& helpFile, int command, long context) {

@@ -14,12 +14,13 @@ namespace qs::test {
 
 // One call that reached the host, as the log shows it.
 struct HostCall {
-    QString kind;   // "MsgBox", "InputBox", "FileOpen", "FileSave", "Modal", "ClipboardClear",
-                    // "ClipboardSet", "ClipboardGet", "Shell", "Help", "PrinterDialog", "Print",
-                    // "Pointer", "PrevInstance", "End"
-    QString title;  // title of a prompt, verb of a shell call, help file of a help call
-    QString text;   // prompt text, form name, file, clipboard text, printed text
-    int flags = 0;  // message box flags, help command, pointer value, shell show value
+    QString kind;  // "MsgBox", "InputBox", "FileOpen", "FileSave", "Modal", "ClipboardClear",
+                   // "PopupMenu", "ClipboardSet", "ClipboardGet", "Shell", "Help", "PrinterDialog",
+                   // "Print", "Pointer", "PrevInstance", "End"
+    QString title; // title of a prompt, verb of a shell call, help file of a help call, the
+                   // entries a pop-up shows (names, joined by ",")
+    QString text;  // prompt text, form name, file, clipboard text, printed text
+    int flags = 0; // message box flags, help command, pointer value, shell show value
     QString answer; // what the host answered
 
     int icon() const { return flags & 0x70; }
@@ -94,6 +95,9 @@ public:
                      const QString& defaultText) override;
     QString fileDialog(const FileDialogRequest& request) override;
     void showModal(FormBase& form) override;
+    // Records the pop-up by the menu's name, with the entries it shows; it closes with nothing
+    // chosen.
+    void popupMenu(QMenu& menu) override;
     void clipboardClear() override;
     void clipboardSetText(const QString& text) override;
     QString clipboardGetText() override;

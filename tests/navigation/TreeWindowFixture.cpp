@@ -1,0 +1,96 @@
+#include "TreeWindowFixture.h"
+
+#include "FormBase.h"
+#include "Globals.h"
+#include "TreeView.h"
+#include "cLibraryService.h"
+#include "cSourceCode.h"
+#include "cSourceFile.h"
+#include "frmMain.h"
+#include "mRegConstants.h"
+#include "mRegistry.h"
+
+#include <QApplication>
+#include <QFileInfo>
+#include <QTest>
+#include <QTreeWidgetItemIterator>
+
+namespace qs::test {
+
+void TreeWindow::SetUp() {
+    HostFixture::SetUp();
+    addGlobalReset("core", [] { ResetGlobals(); });
+    mDatabase = home->file(QStringLiteral("Libraries/Quillstone.mdb"));
+    cLibraryService(mDatabase).CreateDatabase(mDatabase, QString());
+    const QString key = QString::fromLatin1(REG_KEY_DATABASE);
+    SaveRegSetting(key, QString::fromLatin1(REG_VAL_DATABASE_PATH),
+                   QFileInfo(mDatabase).absolutePath());
+    SaveRegSetting(key, QString::fromLatin1(REG_VAL_DATABASE_FILENAME),
+                   QFileInfo(mDatabase).fileName());
+    gstrUserId = QStringLiteral("ada");
+}
+
+int TreeWindow::addCode(const QString& description, int typeId, int tested, int parentId,
+                        bool folder, int categoryId) {
+    cSourceCode item(mDatabase);
+    item.BeginEdit(0);
+    item.Description(description);
+    item.CategoryId(categoryId);
+    item.CodeTypeId(typeId);
+    item.Tested(tested);
+    item.ParentId(parentId);
+    item.IsFolder(folder);
+    item.Code(QStringLiteral("' code of ") + description);
+    return item.Save();
+}
+
+int TreeWindow::addFile(const QString& description, int typeId, int parentId, bool folder,
+                        int categoryId) {
+    cSourceFile item(mDatabase);
+    item.BeginEdit(0);
+    item.Description(description);
+    item.CategoryId(categoryId);
+    item.FileTypeId(typeId);
+    item.ParentId(parentId);
+    item.IsFolder(folder);
+    return item.Save();
+}
+
+int TreeWindow::addCategory(const QString& name) {
+    return cLibraryService(mDatabase).AddCategory(name);
+}
+
+frmMain& TreeWindow::open(const QString& accessType) {
+    gstrAccessType = accessType;
+    frmMain& form = Forms::get<frmMain>();
+    form.show();
+    QApplication::setActiveWindow(&form);
+    return form;
+}
+
+void TreeWindow::click(TreeView& tree, const QString& key, Qt::MouseButton button) {
+    Node node = tree.Nodes(key);
+    node.EnsureVisible();
+    for (QTreeWidgetItemIterator it(&tree); *it; ++it) {
+        const QRect rect = tree.visualItemRect(*it);
+        if (!rect.isEmpty() && tree.HitTest(rect.center().x(), rect.center().y()) == node) {
+            QTest::mouseClick(tree.viewport(), button, {}, rect.center());
+            return;
+        }
+    }
+    ADD_FAILURE() << "the node " << key.toStdString() << " is not on show";
+}
+
+void TreeWindow::press(TreeView& tree, Qt::Key key) {
+    tree.setFocus();
+    QTest::keyClick(&tree, key);
+}
+
+QStringList TreeWindow::childKeys(TreeView& tree, const QString& key) {
+    QStringList keys;
+    for (Node child = tree.Nodes(key).Child(); child; child = child.Next())
+        keys << child.Key();
+    return keys;
+}
+
+} // namespace qs::test

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "HostFixture.h"
+
+#include <QString>
+#include <Qt>
+
+namespace qs {
+class TreeView;
+class frmMain;
+} // namespace qs
+
+namespace qs::test {
+
+// A library the settings name, filled through the data service, and the main window of a
+// logged-in user, driven through its trees as a person does.
+class TreeWindow : public HostFixture {
+public:
+    // The keys of the children of a node, in the order shown.
+    static QStringList childKeys(TreeView& tree, const QString& key);
+
+protected:
+    void SetUp() override;
+
+    // A text item or folder of category 1 unless told; returns its id.
+    int addCode(const QString& description, int typeId = 201, int tested = 1, int parentId = 0,
+                bool folder = false, int categoryId = 1);
+    // A stored-file catalogue row (no bytes); returns its id.
+    int addFile(const QString& description, int typeId = 101, int parentId = 0, bool folder = false,
+                int categoryId = 1);
+    int addCategory(const QString& name);
+
+    // Loads and shows the window for a user of that access type ("Admin", "User").
+    frmMain& open(const QString& accessType = QStringLiteral("Admin"));
+    // A real click on the node of that key, on the tree's viewport (its parents are expanded
+    // first, as a person has to).
+    static void click(TreeView& tree, const QString& key, Qt::MouseButton button = Qt::LeftButton);
+    // A key pressed and released with the focus on the tree.
+    static void press(TreeView& tree, Qt::Key key);
+    QString mDatabase;
+};
+
+} // namespace qs::test
