@@ -173,6 +173,9 @@ public:
     void mnuApiViewer_Click();
     void mnuUser_Click();
     void mnuOpenDatabase_Click();
+    void mnuNewDatabase_Click();
+    void mnuBackup_Click();
+    void mnuCompact_Click();
     void mnuHelpContents_Click();
     void mnuHelpSearch_Click();
     void mnuAboutApp_Click();
