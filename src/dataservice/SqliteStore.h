@@ -52,7 +52,7 @@ public:
     // Runs a prepared query; raises kErrStorage with the engine's text on failure.
     void exec(QSqlQuery& query, const QString& source);
     // Copies the library, as one consistent state while other connections write, to a new file
-    // at `path` with the engine's online backup, and forces the copy onto the disc.
+    // at `path` with the engine's online backup.
     void backupTo(const QString& path, const QString& source);
 
     // Prepares, binds in order, runs.
