@@ -20,6 +20,7 @@ public:
     QString inputBox(const QString&, const QString&, const QString&) override { return {}; }
     QString fileDialog(const FileDialogRequest&) override { return nextFile; }
     void showModal(FormBase&) override {}
+    void popupMenu(QMenu&) override {}
     void clipboardClear() override {}
     void clipboardSetText(const QString&) override {}
     QString clipboardGetText() override { return {}; }

@@ -22,7 +22,7 @@
 using namespace qs::bench;
 
 int main(int argc, char* argv[]) {
-    // The window figures run without a display, and their settings go to a private folder.
+    // The window figures run without a display; their settings and files go to a private folder.
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     QTemporaryDir settings;
@@ -114,9 +114,9 @@ int main(int argc, char* argv[]) {
         if (want("parse_module"))
             FigureParseModule(context);
         if (want("api_load"))
-            FigureApiLoad(context, QDir::tempPath(), 50000);
+            FigureApiLoad(context, settings.path(), 50000);
         if (want("api_typeahead"))
-            FigureApiTypeAhead(context, QDir::tempPath(), 50000);
+            FigureApiTypeAhead(context, settings.path(), 50000);
         if (storedMb > 0 && want("stored_file"))
             FigureStoredFile(context, storedMb);
     } catch (const qs::QsError& e) {
