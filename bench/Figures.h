@@ -26,5 +26,11 @@ void FigureRtfToHtml(const BenchContext& context, int megabytes);
 // The search tab's hit tree filled by the main window offscreen, for a type node whose every
 // item is a hit (10,000 at 100,000 items), beside the plain scan of the same answer.
 void FigureSearchFill(const BenchContext& context);
+// An API file of `entries` declarations (constants, Declares and types as real files mix them)
+// loaded into the API viewer through its Load command, beside reading the file into lines.
+void FigureApiLoad(const BenchContext& context, const QString& folder, int entries);
+// The API viewer's search as you type over a list of `entries` names: each key from its press
+// to the list repainted, beside finding the first prefix match in a plain list.
+void FigureApiTypeAhead(const BenchContext& context, const QString& folder, int entries);
 
 } // namespace qs::bench

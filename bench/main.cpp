@@ -9,8 +9,8 @@
 // --rtf-mb  size of the rich text converted to HTML (default 1; 0 leaves it out)
 // --skip-library  leaves out the figures of the synthetic library, the parser and the converter;
 //                 the tree and window figures remain
-// --only   runs only the library figures whose names start with this text (the library is still
-//          built)
+// --only   runs only the figures whose names start with this text (e.g. "api_", "backup"); the
+//          library is built only when one of its figures is wanted
 #include "Bench.h"
 #include "Figures.h"
 #include "PlainScan.h"
@@ -25,22 +25,32 @@
 #include <QApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QTemporaryDir>
 #include <cstdio>
 
 using namespace qs::bench;
 
 namespace {
 
+// True when `figure` is wanted under --only: the figure's name starts with the prefix, or the
+// prefix names one figure of a group.
+bool wanted(const QString& only, const QString& figure) {
+    return only.isEmpty() || figure.startsWith(only) || only.startsWith(figure);
+}
+
 void libraryFigures(const BenchContext& context, bool reuse, int storedMb, int rtfMb,
                     const QString& only) {
-    if (!reuse || !QFileInfo::exists(context.path)) {
+    const auto wants = [&only](const QString& figure) { return wanted(only, figure); };
+    const bool needsLibrary = wants(QStringLiteral("file_size")) || wants(QStringLiteral("get_")) ||
+                              wants(QStringLiteral("search_")) || wants(QStringLiteral("backup")) ||
+                              wants(QStringLiteral("compact")) || wants(QStringLiteral("stored"));
+    if (needsLibrary && (!reuse || !QFileInfo::exists(context.path))) {
         const double ms =
             MedianMs(1, [&] { SyntheticLibrary::build(context.path, context.items); });
         PrintFigure(context, QStringLiteral("build_library"), ms, -1,
                     PlainScan::itemCount(context.path), true,
                     {{QStringLiteral("db"), QStringLiteral("\"%1\"").arg(context.path)}});
     }
-    const auto wants = [&only](const QString& figure) { return figure.startsWith(only); };
     if (wants(QStringLiteral("file_size")))
         FigureFileSize(context);
     if (wants(QStringLiteral("get_items")))
@@ -115,12 +125,13 @@ void treeAndWindowFigures(const BenchContext& library, bool reuse) {
 } // namespace
 
 int main(int argc, char* argv[]) {
-    // The window figures run offscreen, and the settings they write go to a folder of the
-    // bench's own, never to those of the person running it.
+    // The window figures run offscreen, and the settings and files they write go to a folder of
+    // the bench's own, never to those of the person running it.
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
-    qputenv("XDG_CONFIG_HOME",
-            QDir::temp().filePath(QStringLiteral("quillstone-bench-settings")).toLocal8Bit());
+    QTemporaryDir settings;
+    qputenv("XDG_CONFIG_HOME", settings.filePath(QStringLiteral("config")).toUtf8());
+    qputenv("XDG_DATA_HOME", settings.filePath(QStringLiteral("data")).toUtf8());
     QApplication app(argc, argv);
     BenchContext context;
     context.items = 100000;
@@ -167,7 +178,15 @@ int main(int argc, char* argv[]) {
     try {
         if (!skipLibrary)
             libraryFigures(context, reuse, storedMb, rtfMb, only);
-        treeAndWindowFigures(context, reuse);
+        if (wanted(only, QStringLiteral("api_load")))
+            FigureApiLoad(context, settings.path(), 50000);
+        if (wanted(only, QStringLiteral("api_typeahead")))
+            FigureApiTypeAhead(context, settings.path(), 50000);
+        bool windowFigures = false;
+        for (const char* group : {"tree_", "fill_", "category_tree", "main_tree", "item_"})
+            windowFigures = windowFigures || wanted(only, QLatin1String(group));
+        if (windowFigures)
+            treeAndWindowFigures(context, reuse);
     } catch (const qs::QsError& e) {
         std::fprintf(stderr, "bench: %s\n", qPrintable(e.description()));
         return 1;

@@ -5,7 +5,7 @@ set -euo pipefail
 packages=(
     build-essential cmake ninja-build pkg-config
     libgtest-dev
-    qt6-base-dev libqt6sql6-sqlite libgl-dev
+    qt6-base-dev libqt6sql6-sqlite libsqlite3-dev libgl-dev
     poppler-utils libxml2-utils
 )
 [ "${QS_WITH_XVFB:-0}" = 1 ] && packages+=(xvfb x11-apps imagemagick)

@@ -24,10 +24,6 @@
 
 namespace qs {
 
-namespace {
-
-// Chosen as the new database's name: a name with a point must name an ".mdb"
-// file.
 bool IsDatabaseName(const QString& strFileName) {
     return !strFileName.contains(QLatin1Char('.')) ||
            strFileName.contains(QLatin1String(".mdb"), Qt::CaseInsensitive);
@@ -38,6 +34,8 @@ QString WithMdb(const QString& strName) {
                ? strName
                : strName + QLatin1String(".mdb");
 }
+
+namespace {
 
 void SaveDatabaseSetting(const char* value, const QString& text) {
     SaveRegSetting(QString::fromLatin1(REG_KEY_DATABASE), QString::fromLatin1(value), text);

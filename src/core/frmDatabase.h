@@ -8,6 +8,12 @@ class QRadioButton;
 
 namespace qs {
 
+// The rule for the name of a new database, shared by both ways of making one: a name with a
+// point must hold ".mdb" (any case); a name without one is taken and gets ".mdb".
+bool IsDatabaseName(const QString& strFileName);
+// The name with ".mdb" added unless its last four characters are ".mdb" (any case).
+QString WithMdb(const QString& strName);
+
 // The dialog of a missing database: find an existing one or create a new one.
 class frmDatabase : public FormBase {
     Q_OBJECT

@@ -35,6 +35,12 @@ public:
     static void create(const QString& path, const QString& settingsFile, const QString& source);
     // True when the file's first 100 bytes are those of a library (no SQL is run).
     static bool hasLibraryHeader(const QString& path);
+    // Compacts the library at the path: a compacted copy is built beside it ("<path>.compacting"),
+    // forced onto the disc and renamed over the library, so that the path names the whole old
+    // library or the whole new one at every moment.  The file is replaced by name, so nothing
+    // else may have it open: a library open elsewhere is refused with kErrStorage, and nobody can
+    // open it while the copy is made.  Defined in SqliteStore_file.cpp.
+    static void compact(const QString& path, const QString& source);
 
     ~SqliteStore();
     SqliteStore(const SqliteStore&) = delete;
@@ -47,6 +53,10 @@ public:
     QSqlQuery prepare(const QString& sql, const QString& source);
     // Runs a prepared query; raises kErrStorage with the engine's text on failure.
     void exec(QSqlQuery& query, const QString& source);
+    // Copies the library, as one consistent state while other connections write, to a new file
+    // at `path` with the engine's online backup.
+    void backupTo(const QString& path, const QString& source);
+
     // Prepares, binds in order, runs.
     QSqlQuery run(const QString& sql, const QVariantList& binds, const QString& source);
     // The first column of the first row, or an invalid QVariant when there is no row.
@@ -76,6 +86,9 @@ public:
     // Test seam: called inside every write transaction just before COMMIT.  Tests use it to stop
     // a process in the middle of a save; nothing else sets it.
     static void setBeforeCommitHook(std::function<void()> hook);
+    // Test seam: called when a compacted copy is whole on disc, just before it replaces the
+    // library.
+    static void setBeforeReplaceHook(std::function<void()> hook);
 
 private:
     SqliteStore(const QString& path, const QString& connectionName);

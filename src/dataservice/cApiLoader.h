@@ -36,7 +36,8 @@ public:
     const VbArray<QString>& TypeNames() const { return mTypeNames; }
 
     // Reads and parses the file, replacing what an earlier load read.  A missing or unreadable
-    // file raises error 53, "File not found", and leaves the object empty.
+    // file raises error 53, "File not found", and a file holding a null byte, which no text file
+    // does, raises 321, "Invalid file format"; either leaves the object empty.
     void LoadFile(const QString& strPath);
 
 private:

@@ -107,7 +107,11 @@ public:
     // "Backup/Quillstone 2024-05-01 142530.mdb" (" (2)", " (3)" ... when that name is taken).
     // The backup is a library of its own that opens like any other.
     QString BackupDatabase(const QString& strDatabasePath);
-    // Compacts the library at the path in place; every row stays.
+    // Compacts the library at the path in place; every row stays.  The compacted copy replaces
+    // the file only once it is whole on disc, so a crash at any moment leaves the whole old or
+    // the whole new library.  The library must not be open elsewhere (another service object
+    // or program): that is refused with kErrStorage and changes nothing.  This object's own
+    // connection is closed first and opens again at its next call.
     void CompactDatabase(const QString& strDatabasePath);
 
 private:

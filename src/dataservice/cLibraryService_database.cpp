@@ -29,12 +29,11 @@ QString cLibraryService::BackupDatabase(const QString& strDatabasePath) {
     for (int n = 2; QFileInfo::exists(target); ++n)
         target = folder.filePath(QStringLiteral("%1 (%2)%3").arg(stem).arg(n).arg(suffix));
 
-    // VACUUM INTO reads one snapshot, so writers on other connections neither stop it nor
-    // tear it; the copy is renamed into place only once it is whole.
+    // The copy is renamed into place only once it is whole.
     const QString building = target + QStringLiteral(".building");
     QFile::remove(building);
     try {
-        library->run(QStringLiteral("VACUUM INTO ?"), {building}, source);
+        library->backupTo(building, source);
     } catch (...) {
         QFile::remove(building);
         throw;
@@ -49,10 +48,9 @@ QString cLibraryService::BackupDatabase(const QString& strDatabasePath) {
 }
 
 void cLibraryService::CompactDatabase(const QString& strDatabasePath) {
-    const QString source = QStringLiteral("cLibraryService:CompactDatabase;");
-    auto library = SqliteStore::open(strDatabasePath, source);
-    library->run(QStringLiteral("VACUUM"), {}, source);
-    library->run(QStringLiteral("PRAGMA wal_checkpoint(TRUNCATE)"), {}, source);
+    // This object's own connection would keep the library shared; it opens again at next use.
+    mStore.reset();
+    SqliteStore::compact(strDatabasePath, QStringLiteral("cLibraryService:CompactDatabase;"));
 }
 
 } // namespace qs

@@ -271,17 +271,6 @@ void frmMain::mnuAboutApp_Click() {
     }
 }
 
-void frmMain::mnuOpenDatabase_Click() {
-    try {
-        host().setMousePointer(vbHourglass);
-        SelectDataBase();
-        SSTabNavigate->setTab(0);
-        host().setMousePointer(vbDefault);
-    } catch (...) {
-        HandleFailure("frmMain:mnuOpenDatabase_Click;");
-    }
-}
-
 void frmMain::SelectDataBase() {
     try {
         host().setMousePointer(vbHourglass);

@@ -173,8 +173,12 @@ public:
     void mnuLoginReturn_Click();
     void mnuExit_Click();
     void mnuBookmarks_Click();
+    void mnuApiViewer_Click();
     void mnuUser_Click();
     void mnuOpenDatabase_Click();
+    void mnuNewDatabase_Click();
+    void mnuBackup_Click();
+    void mnuCompact_Click();
     void mnuHelpContents_Click();
     void mnuHelpSearch_Click();
     void mnuAboutApp_Click();

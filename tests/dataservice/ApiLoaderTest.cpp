@@ -148,3 +148,16 @@ TEST_F(ApiLoader, EmptyFileGivesEmptyArrays) {
     EXPECT_EQ(api.TypeNames().LBound(), 0);
     EXPECT_EQ(api.TypeNames().UBound(), 0);
 }
+
+TEST_F(ApiLoader, AFileWithANullByteIsNoTextAndRaisesLeavingNothing) {
+    api.LoadFile(write("Const A = 1\n"));
+    const QByteArray binary = QByteArray("Const B = 2\r\n") + QByteArray("\x7f"
+                                                                         "ELF\0\0",
+                                                                         6);
+    const QsError e = qs::test::Raised([&] { api.LoadFile(write(binary)); });
+    EXPECT_EQ(e.number(), 321);
+    EXPECT_EQ(e.source(), "cApiLoader:LoadFile;");
+    EXPECT_TRUE(e.description().contains("is not a text file"));
+    EXPECT_EQ(api.ConstantNames().UBound(), 0);
+    EXPECT_TRUE(api.Constants().isEmpty());
+}

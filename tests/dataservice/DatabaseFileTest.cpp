@@ -6,9 +6,11 @@
 #include "cSecurityService.h"
 
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFileInfo>
 #include <atomic>
 #include <csignal>
+#include <functional>
 #include <poll.h>
 #include <sys/wait.h>
 #include <thread>
@@ -185,6 +187,121 @@ TEST_F(Compact, KeepsEveryRowAndGivesBackSpace) {
     EXPECT_LT(QFileInfo(dbPath).size(), sizeBefore);
     expectConsistent(dbPath, 2);
     EXPECT_EQ(library.GetSourceCode(ids[59]).Revisions().Count(), 2);
+}
+
+TEST_F(Compact, IsRefusedWhileTheLibraryIsOpenElsewhereAndChangesNothing) {
+    addCode(QStringLiteral("Kept"));
+    cLibraryService other(dbPath);
+    EXPECT_EQ(other.GetLookup(QStringLiteral("Category")).UBound(), 1);
+
+    const QsError e = Raised([&] { cLibraryService(dbPath).CompactDatabase(dbPath); });
+    EXPECT_EQ(e.number(), kErrStorage);
+    EXPECT_EQ(e.source(), QStringLiteral("cLibraryService:CompactDatabase;"));
+    EXPECT_TRUE(e.description().contains(QStringLiteral("open in another"))) << e.what();
+    EXPECT_FALSE(QFileInfo::exists(dbPath + QStringLiteral(".compacting")));
+    // The other connection goes on reading and writing the same file.
+    other.AddCategory(QStringLiteral("After"));
+    EXPECT_EQ(rows(QStringLiteral("Category")), 2);
+    EXPECT_EQ(rows(QStringLiteral("SourceCode")), 1);
+}
+
+// A child compacts the library and is killed; the library must open whole, every item there.
+class CompactKilled : public DataServiceTest {
+protected:
+    static constexpr int kItems = 60;
+
+    void SetUp() override {
+        DataServiceTest::SetUp();
+        for (int i = 0; i < kItems + 20; ++i)
+            saveItem(dbPath, QStringLiteral("item %1").arg(i), 2);
+        cLibraryService library(dbPath);
+        for (const ItemRow& row :
+             library.GetItems(QStringLiteral("SourceCode"), 0, 0, 0, 0, 0, 0, 0)) {
+            if (row.Id > kItems) {
+                cSourceCode item = library.GetSourceCode(row.Id);
+                DeleteRecord(item);
+            }
+        }
+    }
+
+    // Forks a child that runs `body` with the pipe's write end; returns once the child has
+    // written its first byte and `delayUs` more have passed, after killing it.
+    void killChildAfterFirstByte(const std::function<void(int)>& body, useconds_t delayUs) {
+        int pipeFds[2];
+        ASSERT_EQ(pipe(pipeFds), 0);
+        const pid_t child = fork();
+        ASSERT_GE(child, 0);
+        if (child == 0) {
+            close(pipeFds[0]);
+            try {
+                body(pipeFds[1]);
+            } catch (...) {
+            }
+            _exit(3);
+        }
+        close(pipeFds[1]);
+        const bool started = readByte(pipeFds[0]);
+        usleep(delayUs);
+        kill(child, SIGKILL);
+        int status = 0;
+        waitpid(child, &status, 0);
+        close(pipeFds[0]);
+        ASSERT_TRUE(started);
+        EXPECT_TRUE(WIFSIGNALED(status));
+    }
+
+    void expectWholeLibrary() {
+        expectConsistent(dbPath, 2);
+        const auto items =
+            cLibraryService(dbPath).GetItems(QStringLiteral("SourceCode"), 0, 0, 0, 0, 0, 0, 0);
+        EXPECT_EQ(items.UBound(), kItems);
+    }
+
+    static void tell(int fd) {
+        const char c = 'c';
+        if (write(fd, &c, 1) != 1)
+            _exit(2);
+    }
+};
+
+TEST_F(CompactKilled, WithTheCopyWholeButNotYetInPlaceLeavesTheOldLibrary) {
+    killChildAfterFirstByte(
+        [this](int fd) {
+            SqliteStore::setBeforeReplaceHook([fd] {
+                tell(fd);
+                for (;;)
+                    pause();
+            });
+            cLibraryService(dbPath).CompactDatabase(dbPath);
+        },
+        0);
+    EXPECT_TRUE(QFileInfo::exists(dbPath + QStringLiteral(".compacting")));
+    expectWholeLibrary();
+    // The next compaction clears what the killed one left.
+    cLibraryService(dbPath).CompactDatabase(dbPath);
+    EXPECT_FALSE(QFileInfo::exists(dbPath + QStringLiteral(".compacting")));
+    expectWholeLibrary();
+}
+
+TEST_F(CompactKilled, AtAnyMomentOfACompactionLeavesAWholeLibrary) {
+    QElapsedTimer timer;
+    timer.start();
+    cLibraryService(dbPath).CompactDatabase(dbPath);
+    const qint64 durationUs = qMax<qint64>(timer.nsecsElapsed() / 1000, 1000);
+    // The child compacts again and again; it is killed at a fraction of one compaction after
+    // the end of its first.
+    for (int step = 0; step <= 6; ++step) {
+        SCOPED_TRACE(step);
+        killChildAfterFirstByte(
+            [this](int fd) {
+                for (;;) {
+                    cLibraryService(dbPath).CompactDatabase(dbPath);
+                    tell(fd);
+                }
+            },
+            static_cast<useconds_t>(durationUs * step / 6));
+        expectWholeLibrary();
+    }
 }
 
 using SharedFile = DataServiceTest;

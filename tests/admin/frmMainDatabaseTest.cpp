@@ -1,0 +1,188 @@
+// The main window's database commands: Create, Backup and Compact.
+#include "AdminFixture.h"
+
+#include "Globals.h"
+#include "TreeView.h"
+#include "cLibraryService.h"
+#include "cSecurityService.h"
+#include "cSourceCode.h"
+#include "frmLogin.h"
+#include "frmMain.h"
+#include "frmUser.h"
+#include "mRegConstants.h"
+#include "mRegistry.h"
+
+#include <QAction>
+#include <QDir>
+#include <QFileInfo>
+#include <QPushButton>
+
+using namespace qs;
+using namespace qs::test;
+
+namespace {
+
+QString databaseSetting(const char* value) {
+    return GetRegSetting(QString::fromLatin1(REG_KEY_DATABASE), QString::fromLatin1(value))
+        .toString();
+}
+
+class MainDatabase : public AdminFixture {
+protected:
+    void SetUp() override {
+        AdminFixture::SetUp();
+        addUser(QStringLiteral("ada"), QStringLiteral("pw"), 1, QStringLiteral("Ada"),
+                QStringLiteral("Byron"));
+        logIn(QStringLiteral("ada"), QStringLiteral("pw"));
+    }
+    static int addCode(const QString& path, const QString& name) {
+        cSourceCode item(path);
+        item.BeginEdit(0);
+        item.CategoryId(1);
+        item.CodeTypeId(201);
+        item.Tested(1);
+        item.Description(name);
+        item.Code(QString(3000, QLatin1Char('x')));
+        item.Revisions().Add(0).Version(QStringLiteral("1.0.0"));
+        return item.Save();
+    }
+    static int items(const QString& path) {
+        return cLibraryService(path)
+            .GetItems(QStringLiteral("SourceCode"), 0, 0, 0, 0, 0, 0, 0)
+            .UBound();
+    }
+    // The first-user form as a person fills it after a new database.
+    void answerFirstUser(const QString& id) {
+        hostScript.expectMsgBox(QStringLiteral("Please add the first user"));
+        hostScript.onModal<frmUser>(QStringLiteral("frmUser"), [id](frmUser& form) {
+            EXPECT_EQ(form.Mode(), frmUser::ModeAdd);
+            fillUser(form, id, QStringLiteral("Eve"), QStringLiteral("Ng"), QStringLiteral("pw2"),
+                     QStringLiteral("Admin"));
+            form.cmdUserUpdate_Click();
+        });
+    }
+};
+
+TEST_F(MainDatabase, CreateRefusesANameThatIsNoDatabaseOrAFileThatExistsAndChangesNoSetting) {
+    frmMain& form = Forms::get<frmMain>();
+    const struct {
+        QString answer;
+        const char* told; // nullptr: no message
+    } cases[] = {
+        {QString(), nullptr},
+        {home->file(QStringLiteral("New/data.txt")),
+         "You can only enter an access database (.mdb)."},
+        {mDatabase, "You can only enter an access database that does not already exist"},
+        // Without its extension the name of an existing library is still that library.
+        {mDatabase.chopped(4), "You can only enter an access database that does not already exist"},
+    };
+    const QString folder = databaseSetting(REG_VAL_DATABASE_PATH);
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.answer.toStdString());
+        hostScript.clearCalls();
+        hostScript.answerFileDialog(c.answer);
+        if (c.told)
+            hostScript.expectMsgBox(QString::fromLatin1(c.told));
+        form.mnuNewDatabase->trigger();
+        EXPECT_EQ(hostScript.lastFileDialog().title,
+                  QStringLiteral("Please select path and enter new database name."));
+        EXPECT_EQ(hostScript.lastFileDialog().filter,
+                  QStringLiteral("MsAccess Files (*.mdb)|*.mdb"));
+        EXPECT_TRUE(hostScript.lastFileDialog().forSave);
+        EXPECT_EQ(hostScript.msgBoxes().size(), c.told ? 1 : 0);
+        if (c.told) {
+            EXPECT_EQ(hostScript.msgBoxes().first().title, QStringLiteral("Database?"));
+            EXPECT_EQ(hostScript.msgBoxes().first().icon(), vbInformation);
+        }
+        EXPECT_EQ(hostScript.mousePointer(), vbDefault);
+        EXPECT_EQ(databaseSetting(REG_VAL_DATABASE_PATH), folder);
+        EXPECT_EQ(databaseSetting(REG_VAL_DATABASE_FILENAME), QStringLiteral("Quillstone.mdb"));
+    }
+    EXPECT_FALSE(QDir(home->file(QStringLiteral("New"))).exists());
+}
+
+TEST_F(MainDatabase, CreateMakesTheLibraryNamesItTakesTheFirstUserAndShowsItWithoutALogin) {
+    const struct {
+        const char* typed;
+        const char* made;
+    } names[] = {{"data", "data.mdb"}, {"DATA.MDB", "DATA.MDB"}};
+    frmMain& form = Forms::get<frmMain>();
+    int made = 0;
+    for (const auto& n : names) {
+        SCOPED_TRACE(n.typed);
+        const QString folder = home->file(QStringLiteral("Made%1").arg(++made));
+        QDir().mkpath(folder);
+        const QString path = folder + QLatin1Char('/') + QLatin1String(n.made);
+        hostScript.answerFileDialog(folder + QLatin1Char('/') + QLatin1String(n.typed));
+        answerFirstUser(QStringLiteral("eve%1").arg(made));
+        form.mnuNewDatabase->trigger();
+
+        EXPECT_TRUE(QFileInfo(path).isFile());
+        EXPECT_EQ(databaseSetting(REG_VAL_DATABASE_PATH), folder);
+        EXPECT_EQ(databaseSetting(REG_VAL_DATABASE_FILENAME), QLatin1String(n.made));
+        EXPECT_TRUE(gblnFirstUser);
+        EXPECT_EQ(cSecurityService(path).GetUsers().UBound(), 1);
+        // The window works on the new library at once, with no login in between.
+        EXPECT_EQ(gobjLibrary->DatabasePath(), QFileInfo(path).absoluteFilePath());
+        EXPECT_EQ(Forms::find<frmLogin>(), nullptr);
+        EXPECT_TRUE(form.IsLoaded());
+        EXPECT_GT(form.tvwCategories->Nodes.Count(), 0);
+        EXPECT_EQ(hostScript.mousePointer(), vbDefault);
+    }
+    // The library the window had before is left as it was.
+    EXPECT_EQ(cSecurityService(mDatabase).GetUsers().UBound(), 1);
+}
+
+TEST_F(MainDatabase, CreateEndsTheProgramWhenTheFirstUserIsNotMade) {
+    frmMain& form = Forms::get<frmMain>();
+    const QString path = home->file(QStringLiteral("Quit.mdb"));
+    hostScript.answerFileDialog(path);
+    hostScript.expectMsgBox(QStringLiteral("Please add the first user"));
+    hostScript.onModal<frmUser>(QStringLiteral("frmUser"), [this](frmUser& user) {
+        hostScript.expectMsgBox(QStringLiteral("There are no users in the database."));
+        hostScript.expectMsgBox(QStringLiteral("Exiting without entering an employee"), vbYes);
+        // Called, not clicked: the scripted End must unwind to here as the real one ends all.
+        user.cmdExit_Click();
+    });
+    EXPECT_TRUE(hostScript.runToEnd([&] { form.mnuNewDatabase_Click(); }));
+    // The settings already name the new, empty library: the next start asks for a first user.
+    EXPECT_EQ(databaseSetting(REG_VAL_DATABASE_FILENAME), QStringLiteral("Quit.mdb"));
+    EXPECT_EQ(cSecurityService(path).GetUsers().UBound(), 0);
+}
+
+TEST_F(MainDatabase, BackupCopiesTheLibraryBesideItWithNoMessage) {
+    addCode(mDatabase, QStringLiteral("Saved"));
+    frmMain& form = Forms::get<frmMain>();
+    const int yields = hostScript.doEventsCount();
+    form.mnuBackup->trigger();
+    const QFileInfoList made = QDir(QFileInfo(mDatabase).absolutePath() + QStringLiteral("/Backup"))
+                                   .entryInfoList(QDir::Files);
+    ASSERT_EQ(made.size(), 1);
+    EXPECT_EQ(items(made.first().absoluteFilePath()), 1);
+    EXPECT_TRUE(hostScript.msgBoxes().isEmpty()) << hostScript.log().toStdString();
+    EXPECT_GT(hostScript.doEventsCount(), yields);
+    EXPECT_EQ(hostScript.pointerHistory().mid(hostScript.pointerHistory().size() - 2),
+              QList<int>({vbHourglass, vbDefault}));
+}
+
+TEST_F(MainDatabase, CompactKeepsEveryItemAndSaysSoUnlessTheLibraryIsOpenElsewhere) {
+    for (int i = 0; i < 30; ++i)
+        addCode(mDatabase, QStringLiteral("item %1").arg(i));
+    frmMain& form = Forms::get<frmMain>();
+    hostScript.expectMsgBox(QStringLiteral("Your database was successfully compacted."));
+    form.mnuCompact->trigger();
+    EXPECT_EQ(hostScript.msgBoxes().last().title, QStringLiteral("Compacted Database"));
+    EXPECT_EQ(hostScript.msgBoxes().last().icon(), vbInformation);
+    EXPECT_EQ(items(mDatabase), 30);
+
+    cLibraryService elsewhere(mDatabase);
+    elsewhere.GetLookup(QStringLiteral("Category"));
+    hostScript.expectMsgBox(QStringLiteral("frmMain:mnuCompact_Click;"));
+    form.mnuCompact->trigger();
+    EXPECT_EQ(hostScript.msgBoxes().last().icon(), vbCritical);
+    EXPECT_TRUE(hostScript.msgBoxes().last().text.contains(QStringLiteral("open in another")));
+    EXPECT_EQ(hostScript.mousePointer(), vbDefault);
+    EXPECT_EQ(items(mDatabase), 30);
+}
+
+} // namespace
