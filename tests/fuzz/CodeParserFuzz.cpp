@@ -18,6 +18,7 @@ public:
     QString inputBox(const QString&, const QString&, const QString&) override { return {}; }
     QString fileDialog(const qs::FileDialogRequest&) override { return {}; }
     void showModal(qs::FormBase&) override {}
+    void popupMenu(QMenu&) override {}
     void clipboardClear() override {}
     void clipboardSetText(const QString&) override {}
     QString clipboardGetText() override { return {}; }

@@ -23,7 +23,8 @@ int replay(const QByteArray& bytes) {
     return LLVMFuzzerTestOneInput(block.get(), size);
 }
 
-TEST(FuzzCorpus, EveryInputReturnsCleanly) {
+// Each target's replay is a suite of its own, named by its build.
+TEST(QS_FUZZ_SUITE, EveryInputReturnsCleanly) {
     const QDir corpus(QStringLiteral(QS_FUZZ_CORPUS));
     const QFileInfoList inputs = corpus.entryInfoList(QDir::Files, QDir::Name);
     ASSERT_FALSE(inputs.isEmpty()) << "no input in " << corpus.path().toStdString();
