@@ -42,6 +42,7 @@ QStringList Maintenance::versions(ListView& list) {
     QStringList out;
     for (int i = 1; i <= list.ListItems.Count(); ++i)
         out << list.ListItems(i).SubItems(1);
+    out.sort();
     return out;
 }
 

@@ -22,7 +22,7 @@ protected:
     QString writeFile(const QString& name, const QByteArray& bytes) const;
     // A tool-bar button pressed as a click does; false when it is off.
     static bool toolBar(frmMain& form, const char* key);
-    // "date version" of each row of a revision list, versions only.
+    // The versions a revision list shows, in text order.
     static QStringList versions(ListView& list);
     // The ids and descriptions of a table's rows of category 1, as "id description".
     QStringList rows(const QString& table) const;

@@ -62,7 +62,8 @@ protected:
     }
     QStringList fileVersions(int id) const {
         QStringList out;
-        for (const cRevision& r : cLibraryService(mDatabase).GetSourceFile(id).Revisions())
+        const cSourceFile record = cLibraryService(mDatabase).GetSourceFile(id);
+        for (const cRevision& r : record.Revisions())
             out << r.Version() + QLatin1Char(' ') + r.Comment();
         return out;
     }
@@ -164,7 +165,7 @@ TEST_F(SourceFileWindow, AStoredFileIsAddedUpdatedWrittenBackAndFoundAfterAResta
     EXPECT_EQ(fileVersions(2).last(), "1.1.0 Second edition");
 
     // The stored copy goes out under the hourglass, the window back on afterwards.
-    const QString copy = home->file(QStringLiteral("out/copy.txt"));
+    const QString copy = home->file(QStringLiteral("copy-of-guide.txt"));
     hostScript.answerFileDialog(copy);
     hostScript.clearCalls();
     form.cmdSaveFile->click();
