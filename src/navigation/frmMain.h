@@ -310,6 +310,20 @@ public:
     void FindAndColor(long lngColor, const QString& strWord, bool blnNextOnly);
     void RichTextBoxCode_KeyDown(int& KeyCode, int Shift);
 
+    // ---- Item maintenance: stored files, folders, categories and renames ----
+    void mnuAddSourceFile_Click();
+    void mnuAddFolder_Click();
+    void mnuAddCategory_Click();
+    void mnuRename_Click();
+    void cmdOpenFile_Click();
+    void cmdSaveFile_Click();
+    // Shows frmSourceFile modally in "Add" or "Update" mode for the selected node of tvwMain,
+    // with this window disabled meanwhile, and gives the focus back to the tree.  The Edit
+    // command calls it with "Update" for a stored file.
+    void ShowSourceFile(const QString& strMode);
+    // The Insert key on a folder of tvwMain: frmInsert, then the command chosen.
+    void InsertIntoFolder(const QString& strKey);
+
     // ---- Window members ----
     int mintDragFormat = 0;         // clipboard format "Tarnwick" of the node drag
     QString mstrActiveTree;         // "Cats", "Main" or "BookMarks"
@@ -385,6 +399,7 @@ private:
     // Hides the commands that change anything from a user who is not an administrator.
     void ApplyAccessLevel();
     void connectOutput();
+    void connectMaintenance();
     // The RTF, text and PDF exports: the copy dialog under the export's caption, then the file.
     void exportThroughCopyDialog(const FileExportKind& kind);
 

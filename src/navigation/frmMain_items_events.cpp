@@ -135,6 +135,9 @@ void frmMain::tvwMain_KeyUp(int& KeyCode, int Shift) {
         } else if (KeyCode == kKeyInsert && key == kRoot && mnuAdmin->isVisible()) {
             // No button guards this key, so the level does: a reader adds nothing.
             mnuAddFolder->trigger();
+        } else if (KeyCode == kKeyInsert && mnuAdmin->isVisible() &&
+                   key.contains(QLatin1String("Folder"), Qt::CaseInsensitive)) {
+            InsertIntoFolder(key);
         }
         setEnabled(true);
         host().setMousePointer(vbDefault);

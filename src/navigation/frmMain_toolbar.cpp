@@ -6,6 +6,7 @@
 #include "ImageList.h"
 #include "SSTab.h"
 #include "Toolbar.h"
+#include "TreeView.h"
 #include "mEditCommands.h"
 #include "mErrorHandling.h"
 
@@ -63,6 +64,15 @@ const QHash<QString, Command>& toolBarCommands() {
              f.SelectDataBase();
          }},
         {QStringLiteral("Print"), [](frmMain& f) { f.subPrint(); }},
+        // Item maintenance.
+        {QStringLiteral("Add Category"), [](frmMain& f) { f.mnuAddCategory_Click(); }},
+        {QStringLiteral("Add Folder"), [](frmMain& f) { f.mnuAddFolder_Click(); }},
+        {QStringLiteral("Add SourceFile"), [](frmMain& f) { f.mnuAddSourceFile_Click(); }},
+        {QStringLiteral("ReName"),
+         [](frmMain& f) {
+             f.tvwMain_NodeClick(f.tvwMain->SelectedItem());
+             f.mnuRename_Click();
+         }},
     };
     return commands;
 }

@@ -176,6 +176,7 @@ TEST_F(ItemTree, KeysReachTheirEntriesButDeleteNotOnTheRootNorInsertOnAnItem) {
     click(tree, "ROOT");
     click(tree, "SC5CodeTested", Qt::RightButton); // the button is on, the root stays selected
     press(tree, Qt::Key_Delete);
+    hostScript.onModal(QStringLiteral("frmChooseFolderType"), [](FormBase& f) { f.Unload(); });
     press(tree, Qt::Key_Insert);
     EXPECT_EQ(deletes.count(), 1);
     EXPECT_EQ(folders.count(), 1);
