@@ -4,6 +4,7 @@
 #include "frmAuthor.h"
 
 #include "ComboBox.h"
+#include "DialogParts.h"
 
 #include <QEvent>
 #include <QGridLayout>
@@ -15,19 +16,14 @@
 
 namespace qs {
 
+using dialogparts::button;
+
 namespace {
 
 QLineEdit* textBox(QWidget* owner, const char* name) {
     auto* box = new QLineEdit(owner);
     box->setObjectName(QString::fromLatin1(name));
     return box;
-}
-
-QPushButton* button(QWidget* owner, const char* name, const QString& caption) {
-    auto* cmd = new QPushButton(caption, owner);
-    cmd->setObjectName(QString::fromLatin1(name));
-    cmd->setAutoDefault(false);
-    return cmd;
 }
 
 } // namespace
