@@ -2,6 +2,7 @@
 
 #include "frmMain.h"
 
+#include "ClipboardFormats.h"
 #include "ComboBox.h"
 #include "Globals.h"
 #include "Host.h"
@@ -38,18 +39,6 @@ const char* const kAdminButtons[] = {"Add Category",   "Add Folder", "Add Source
                                      "Add SourceFile", "DeleteNode", "Seperator2",
                                      "ReName Item"};
 
-// Clipboard formats registered by name in this process, numbered as the platform numbers its
-// private formats.
-int RegisterClipboardFormat(const QString& name) {
-    static QHash<QString, int> formats;
-    auto found = formats.constFind(name);
-    if (found != formats.constEnd())
-        return *found;
-    const int number = 0xC000 + formats.size();
-    formats.insert(name, number);
-    return number;
-}
-
 } // namespace
 
 frmMain::frmMain() : FormBase(QStringLiteral("frmMain")) {
@@ -62,6 +51,7 @@ frmMain::frmMain() : FormBase(QStringLiteral("frmMain")) {
     connectPanes();
     connectBookmarks();
     connectSearch();
+    connectDeleteAndDrag();
 }
 
 frmMain::~frmMain() {
@@ -211,24 +201,28 @@ void frmMain::mnuExit_Click() {
 
 void frmMain::mnuUser_Click() {
     try {
-        host().setMousePointer(vbHourglass);
-        Hide();
-        const QPointer<frmMain> self(this);
-        Forms::get<frmUser>().Show(vbModal);
-        if (!StillLoaded(self)) {
-            host().setMousePointer(vbDefault);
-            return;
-        }
-        Show(vbModeless);
-        // The tree that had the focus is drawn afresh.
-        if (mstrActiveTree == QLatin1String("Main"))
-            tvwMain->viewport()->update();
-        else if (mstrActiveTree == QLatin1String("Cats"))
-            tvwCategories->viewport()->update();
-        host().setMousePointer(vbDefault);
+        showInsteadOfMain(Forms::get<frmUser>());
     } catch (...) {
         HandleFailure("frmMain:mnuUser_Click;");
     }
+}
+
+void frmMain::showInsteadOfMain(FormBase& form) {
+    host().setMousePointer(vbHourglass);
+    Hide();
+    const QPointer<frmMain> self(this);
+    form.Show(vbModal);
+    if (!StillLoaded(self)) {
+        host().setMousePointer(vbDefault);
+        return;
+    }
+    Show(vbModeless);
+    // The tree that had the focus is drawn afresh.
+    if (mstrActiveTree == QLatin1String("Main"))
+        tvwMain->viewport()->update();
+    else if (mstrActiveTree == QLatin1String("Cats"))
+        tvwCategories->viewport()->update();
+    host().setMousePointer(vbDefault);
 }
 
 void frmMain::mnuBookmarks_Click() {

@@ -16,6 +16,7 @@ class QKeyEvent;
 class QLabel;
 class QLineEdit;
 class QMenuBar;
+class QMimeData;
 class QPlainTextEdit;
 class QPushButton;
 class QRadioButton;
@@ -324,6 +325,24 @@ public:
     // The Insert key on a folder of tvwMain: frmInsert, then the command chosen.
     void InsertIntoFolder(const QString& strKey);
 
+    // ---- Item maintenance: deleting the selected node, and moving items in tvwMain by drag
+    // and drop ----
+    void mnuDelete_Click();
+    void tvwMain_MouseMove(int Button, int Shift, int x, int y);
+    void tvwMain_OLEStartDrag(QMimeData& Data, int& AllowedEffects);
+    void tvwMain_OLEDragOver(const QMimeData& Data, int& Effect, int Button, int Shift, int x,
+                             int y, int State);
+    void tvwMain_OLEDragDrop(const QMimeData& Data, int& Effect, int Button, int Shift, int x,
+                             int y);
+    void tvwMain_OLECompleteDrag(int Effect);
+    void tmrDrag_Timer();
+    QString mstrDragType;   // "Article", "Component", "Code", "Tip", "Class" or "Module"
+    int mintDragScroll = 0; // -1 up, 1 down, 0 none, by the pointer's place in the tree
+    long mlngDragTicks = 0; // ticks of tmrDrag over the same drop target
+
+    // ---- Administration ----
+    void mnuAuthor_Click();
+
     // ---- Window members ----
     int mintDragFormat = 0;         // clipboard format "Tarnwick" of the node drag
     QString mstrActiveTree;         // "Cats", "Main" or "BookMarks"
@@ -391,14 +410,24 @@ private:
     void connectPanes();
     void connectBookmarks();
     void connectSearch();
+    // The delete and author commands and the drag events of tvwMain.
+    void connectDeleteAndDrag();
+    void deleteSelectedItem();
+    void deleteSelectedCategory();
+    // True when the drag data carries a node key in the format of mintDragFormat.
+    bool hasDragFormat(const QMimeData& data) const;
     // The focus and keys of txtSearchString; true when the key is used up.
     bool searchBoxEvent(QEvent* event);
     // The tab rights shared by the tab and code pane handlers.
     void DisableModifyCommands();
     void clearSourceFileFields(bool withVerInfo);
+    // Hides this window while `form` runs modally, then shows it again with the tree that had
+    // the focus drawn afresh.
+    void showInsteadOfMain(FormBase& form);
     // Hides the commands that change anything from a user who is not an administrator.
     void ApplyAccessLevel();
     void connectOutput();
+    // The add, rename, open and save commands of stored files, folders and categories.
     void connectMaintenance();
     // The RTF, text and PDF exports: the copy dialog under the export's caption, then the file.
     void exportThroughCopyDialog(const FileExportKind& kind);

@@ -128,6 +128,7 @@ void frmMain::connectMenus() {
         {mnuDelBookmark, "mnuDelBookmark_Click", &frmMain::mnuDelBookmark_Click},
         {mnuApiViewer, "mnuApiViewer_Click", &frmMain::mnuApiViewer_Click},
         {mnuUser, "mnuUser_Click", &frmMain::mnuUser_Click},
+        {mnuAuthor, "mnuAuthor_Click", &frmMain::mnuAuthor_Click},
         {mnuOpenDatabase, "mnuOpenDatabase_Click", &frmMain::mnuOpenDatabase_Click},
         {mnuNewDatabase, "mnuNewDatabase_Click", &frmMain::mnuNewDatabase_Click},
         {mnuBackup, "mnuBackup_Click", &frmMain::mnuBackup_Click},

@@ -2,6 +2,9 @@
 #include "DataServiceFixture.h"
 #include "ServiceErrors.h"
 
+#include <QMap>
+#include <QStringList>
+
 using namespace qs;
 using namespace qs::test;
 
@@ -73,4 +76,36 @@ TEST_F(SourceFileRecord, DeleteTakesBookmarksRevisionsAndStoredBytes) {
     DeleteRecord(item);
     for (const char* table : {"SourceFileChunk", "BkMark_SrcFile", "SourceFile"})
         EXPECT_EQ(rows(QString::fromLatin1(table)), 0) << table;
+}
+
+TEST_F(SourceFileRecord, ADeleteThatFailsMidwayLeavesTheItemWithAllItHolds) {
+    addUser(QStringLiteral("bob"));
+    const QString path = WriteFile(home->file(QStringLiteral("paper.txt")), "the stored bytes");
+    cSourceFile item(dbPath);
+    item.LoadFile(path, 0, 1, 101);
+    item.BeginEdit(0);
+    item.Description(QStringLiteral("Kept"));
+    item.Revisions().Add(0).Version(QStringLiteral("1.0.0"));
+    const int id = item.Save();
+    cLibraryService library(dbPath);
+    library.AddBookmark(QStringLiteral("BkMark_SrcFile"), id, QStringLiteral("bob"));
+    const QStringList tables = {"SourceFile", "RevHist_SrcFile", "BkMark_SrcFile",
+                                "SourceFileChunk"};
+    QMap<QString, int> before;
+    for (const QString& table : tables)
+        before[table] = rows(table);
+    // The last part of the delete, the bookmarks, fails.
+    ASSERT_TRUE(RawDb(dbPath).exec(QStringLiteral(
+        "CREATE TRIGGER Refuse BEFORE DELETE ON BkMark_SrcFile BEGIN SELECT RAISE(ABORT, "
+        "'disc full'); END")));
+
+    cSourceFile doomed = library.GetSourceFile(id);
+    Raised([&] { DeleteRecord(doomed); });
+    for (const QString& table : tables) {
+        EXPECT_GT(before[table], 0) << table.toStdString();
+        EXPECT_EQ(rows(table), before[table]) << table.toStdString();
+    }
+    const QString out = home->file(QStringLiteral("out.txt"));
+    library.GetSourceFile(id).SaveToDisk(out);
+    EXPECT_EQ(ReadFile(out), "the stored bytes");
 }

@@ -172,6 +172,7 @@ TEST_F(ItemTree, KeysReachTheirEntriesButDeleteNotOnTheRootNorInsertOnAnItem) {
     QSignalSpy folders(form.mnuAddFolder, &QAction::triggered);
     click(tree, "SC5CodeTested");
     press(tree, Qt::Key_Insert);
+    hostScript.expectMsgBox("Do you want to delete the selected item?", vbNo);
     press(tree, Qt::Key_Delete);
     click(tree, "ROOT");
     click(tree, "SC5CodeTested", Qt::RightButton); // the button is on, the root stays selected

@@ -96,6 +96,7 @@ TEST_F(Routing, DeleteNodeOnTheRootWarnsAndClicksItAgain) {
     EXPECT_EQ(form.lblCodeSnipDescr->text(), "Tarnwick");
 
     click(*form.tvwMain, "SC1CodeTested");
+    hostScript.expectMsgBox("Do you want to delete the selected item?", vbNo);
     ASSERT_TRUE(toolBar(form, "DeleteNode"));
     EXPECT_EQ(deletes.count(), 1);
 }
