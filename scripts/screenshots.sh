@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Drives the first run of the program in a virtual display and saves a screenshot of each step
-# under docs/screenshots/: database missing, new database, first user, login, main window, and
-# the API viewer over the sample API file shipped with the program.
+# under docs/screenshots/: database missing, new database, first user, login, main window.  The
+# pictures of the program at work on the sample library are taken by scripts/gallery.sh.
 #
 #   bash scripts/screenshots.sh            builds (preset "run") and drives the program
 #   QS_BINARY=path bash scripts/screenshots.sh   drives an executable built elsewhere
@@ -118,28 +118,6 @@ key Return
 # 6. The main window of the administrator.
 window "^Ovrin Quillstone$" >/dev/null
 shot 07-main-window
-
-# 7. View > API Viewer.  On its first start the viewer asks for the API file in the program's
-#    Datafiles folder with "Win32api.txt" proposed: the sample shipped with the program.  Under
-#    Xvfb with no window manager a window opened over another one shows nothing, so the main
-#    window steps aside first and the viewer is shot alone.
-main=$(window "^Ovrin Quillstone$")
-key alt+v
-sleep 0.4
-xdotool windowmove "$main" 1280 800
-key Return
-window "^Select An API Text file$" >/dev/null
-key Return
-window "^API Viewer$" >/dev/null
-# Search as you type, then Add, for two declarations (Tab: list, scope, Add).
-for name in GetWindowT SendMess; do
-    key Tab
-    key ctrl+a
-    type_text "$name"
-    key Tab Tab Tab space
-    key shift+Tab shift+Tab shift+Tab shift+Tab
-done
-shot api-viewer
 
 kill "$APP_PID" 2>/dev/null || true
 wait "$APP_PID" 2>/dev/null || true
