@@ -192,6 +192,10 @@ public:
     void DeleteNodeCommand();
     void AddItemCommand();
 
+    // ---- Item maintenance: the text item window, to add under a folder or edit an item ----
+    void mnuAddSourceCode_Click();
+    void mnuEditSource_Click();
+
     // ---- Keys of the window: F1 opens the help of the control that has the focus ----
     void Form_KeyDown(int& KeyCode, int Shift);
     void txtNotes_KeyDown(int& KeyCode, int Shift);
@@ -385,6 +389,9 @@ private:
     // Hides the commands that change anything from a user who is not an administrator.
     void ApplyAccessLevel();
     void connectOutput();
+    void connectSourceCode();
+    // After a maintenance window: the focus back on tvwMain and its node selected again.
+    void reselectItemTree();
     // The RTF, text and PDF exports: the copy dialog under the export's caption, then the file.
     void exportThroughCopyDialog(const FileExportKind& kind);
 

@@ -143,6 +143,7 @@ void frmMain::connectMenus() {
     Wire(this, tbToolBar->ButtonClick, "tbToolBar_ButtonClick",
          [this](Button& button) { tbToolBar_ButtonClick(button); });
     connectOutput();
+    connectSourceCode();
 }
 
 void frmMain::connectTrees() {
