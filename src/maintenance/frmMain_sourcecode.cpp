@@ -21,7 +21,8 @@ void frmMain::connectSourceCode() {
          [this] { mnuEditSource_Click(); });
 }
 
-void frmMain::reselectItemTree() {
+void frmMain::afterItemWindow() {
+    setEnabled(true);
     // The focus may be refused (a hidden tree); that is no failure.
     try {
         tvwMain->setFocus(Qt::OtherFocusReason);
@@ -29,6 +30,7 @@ void frmMain::reselectItemTree() {
             selected.setSelected(true);
     } catch (...) {
     }
+    host().setMousePointer(vbDefault);
 }
 
 void frmMain::mnuAddSourceCode_Click() {
@@ -44,9 +46,7 @@ void frmMain::mnuAddSourceCode_Click() {
         const QString key = selected ? selected.Key() : QString();
         glngParentId = key == QLatin1String("ROOT") ? 0 : NodeKeys::IdOf(key);
         Forms::get<frmSourceCode>().Show(vbModal);
-        setEnabled(true);
-        reselectItemTree();
-        host().setMousePointer(vbDefault);
+        afterItemWindow();
     } catch (...) {
         setEnabled(true);
         HandleFailure("frmMain:mnuAddSourceCode_Click;");
@@ -73,9 +73,7 @@ void frmMain::mnuEditSource_Click() {
         if (key.contains(QLatin1String("SC")))
             Forms::get<frmSourceCode>().Show(vbModal);
         // A stored file ("SF") is updated in the source file window.
-        setEnabled(true);
-        reselectItemTree();
-        host().setMousePointer(vbDefault);
+        afterItemWindow();
     } catch (...) {
         setEnabled(true);
         HandleFailure("frmMain:mnuEditSource_Click;");

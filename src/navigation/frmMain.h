@@ -390,8 +390,9 @@ private:
     void ApplyAccessLevel();
     void connectOutput();
     void connectSourceCode();
-    // After a maintenance window: the focus back on tvwMain and its node selected again.
-    void reselectItemTree();
+    // After a maintenance window: the window enabled, the focus back on tvwMain with its node
+    // selected again, the pointer back.
+    void afterItemWindow();
     // The RTF, text and PDF exports: the copy dialog under the export's caption, then the file.
     void exportThroughCopyDialog(const FileExportKind& kind);
 
