@@ -115,8 +115,6 @@ private:
     // The update half of the load: the record, the folder list and the version lists.
     void loadForUpdate();
     void fillVersionLists();
-    // Fills a version combo with the numbers from..to and shows `current`.
-    static void fillNumbers(ComboBox& combo, int from, int to);
     // A validation failure: the message, the window back, then `then` puts the focus.
     void refuse(const QString& title, const QString& message, int tab, QWidget* focus);
     // The node the add made under the selected folder, by the insertion table; Nothing when the

@@ -12,6 +12,7 @@
 #include "RichTextBox.h"
 #include "SSTab.h"
 #include "TreeView.h"
+#include "VersionLists.h"
 #include "cLibraryService.h"
 #include "cSourceCode.h"
 #include "frmMain.h"
@@ -25,19 +26,6 @@
 #include <QPushButton>
 
 namespace qs {
-
-namespace {
-
-// The number a version combo's text stands for; text that is no number is a type mismatch.
-double numberOf(const QString& text) {
-    bool ok = false;
-    const double value = text.trimmed().toDouble(&ok);
-    if (!ok)
-        throw QsError(13, QString::fromLatin1(kAppSource), QStringLiteral("Type mismatch"));
-    return value;
-}
-
-} // namespace
 
 void frmSourceCode::loadForUpdate() {
     CmdAddOrUpdate->setText(QStringLiteral("Update"));
@@ -73,12 +61,6 @@ void frmSourceCode::loadForUpdate() {
     fillVersionLists();
 }
 
-void frmSourceCode::fillNumbers(ComboBox& combo, int from, int to) {
-    combo.Clear();
-    for (int n = from; n <= to; ++n)
-        combo.AddItem(QString::number(n));
-}
-
 void frmSourceCode::fillVersionLists() {
     // From here on a failure skips its own step only.  The floor is the last entry of the list,
     // not the newest by date; a version that does not split leaves the numbers as they were.
@@ -91,12 +73,7 @@ void frmSourceCode::fillVersionLists() {
         } catch (...) {
         }
     }
-    fillNumbers(*cboMajor, gintMajor, 3000);
-    fillNumbers(*cboMinor, gintMinor, 9);
-    fillNumbers(*cboRev, gintRevision, 9);
-    cboMajor->setText(QString::number(gintMajor));
-    cboMinor->setText(QString::number(gintMinor));
-    cboRev->setText(QString::number(gintRevision));
+    FillVersionLists(*cboMajor, *cboMinor, *cboRev);
 }
 
 void frmSourceCode::cboMajor_Click() {
@@ -106,8 +83,7 @@ void frmSourceCode::cboMajor_Click() {
             return;
         }
         // Another major: minor and revision may start again from 0.
-        fillNumbers(*cboMinor, 0, 9);
-        fillNumbers(*cboRev, 0, 9);
+        ResetMinorAndRevision(*cboMinor, *cboRev);
     } catch (...) {
         HandleFailure("frmAddSourceCode:cboMajor_Click;");
     }
@@ -149,8 +125,6 @@ void frmSourceCode::UpdateSourceCode() {
         setEnabled(false);
         const QString updating = QStringLiteral("Update Source Code?");
         const QString described = QStringLiteral("Description?");
-        const QString version = cboMajor->Text() + QLatin1Char('.') + cboMinor->Text() +
-                                QLatin1Char('.') + cboRev->Text();
         if (cboAuthors->Text().isEmpty())
             return refuse(updating,
                           QStringLiteral("Please select the ''Person'' that is updating the "
@@ -164,37 +138,16 @@ void frmSourceCode::UpdateSourceCode() {
                           QStringLiteral("Please enter a ''Description'' before updating source "
                                          "code."),
                           -1, txtDescriptionAddOrUpdate);
-        if (txtRevComsAddOrUpdate->toPlainText().isEmpty())
-            return refuse(described,
-                          QStringLiteral("Please enter a ''Revision Comment'' about what you have "
-                                         "changed."),
-                          3, txtRevComsAddOrUpdate);
-        if (cboMajor->Text().isEmpty())
-            return refuse(described,
-                          QStringLiteral("Please select or enter a ''Major'' about waht you have "
-                                         "changed."),
-                          3, cboMajor);
-        if (cboMinor->Text().isEmpty())
-            return refuse(described, QStringLiteral("Please select a ''Minor'' before updating."),
-                          3, cboMinor);
-        if (cboRev->Text().isEmpty())
-            return refuse(described, QStringLiteral("Please select a ''Revision'' before updating"),
-                          3, cboRev);
-        if (version == gstrCurrentVersion)
-            return refuse(described,
-                          QStringLiteral("Please select a ''Revision'' that is not in the current "
-                                         "revision number before updating."),
-                          3, cboMajor);
-        if (numberOf(cboMajor->Text()) > gintMajor + 2) {
-            // Yes ends the update here and leaves the window as it is, disabled: the answers are
-            // the other way round from the question, and that is the settled behaviour.
-            const int answer = host().msgBox(
-                QStringLiteral("You are selecting a major that is at least 2 greater increments "
-                               "than the current major.  Are you sue you want to update?"),
-                vbYesNo + vbInformation, QStringLiteral("Major?"));
-            if (answer == vbYes)
-                return;
-        }
+        // Yes to the major question ends the update here and leaves the window as it is,
+        // disabled: the answers are the other way round from the question, and that is the
+        // settled behaviour.
+        const NewVersionFields fields{SSTabAboutCode, 3,        txtRevComsAddOrUpdate,
+                                      cboMajor,       cboMinor, cboRev};
+        const VersionCheck check =
+            CheckNewVersion(fields, [this](const QString& title, const QString& text,
+                                           QWidget* focus) { refuse(title, text, 3, focus); });
+        if (check != VersionCheck::Passed)
+            return;
         const bool toTested = ckkTested->isChecked();
         if (toTested && cboSelParFolder->Text().isEmpty())
             return refuse(described,
@@ -215,7 +168,7 @@ void frmSourceCode::UpdateSourceCode() {
         // The updater goes on the revision; the item keeps its first writer.
         cRevision& rev = record.Revisions().Add(0);
         rev.AuthorId(cboAuthors->ItemData(cboAuthors->ListIndex()));
-        rev.Version(version);
+        rev.Version(NewVersionText(fields));
         rev.Comment(ToCrLf(txtRevComsAddOrUpdate->toPlainText()));
         rev.DateRevised(QDateTime::currentDateTime());
         record.Save();
