@@ -4,6 +4,7 @@
 #include "Globals.h"
 #include "ListView.h"
 #include "SSTab.h"
+#include "Toolbar.h"
 #include "TreeView.h"
 #include "cLibraryService.h"
 #include "frmMain.h"
