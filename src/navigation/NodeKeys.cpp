@@ -137,6 +137,14 @@ QString ItemTag(const ItemRow& row) {
     return kind.isEmpty() ? kind : Prefix(row.TypeId) + QString::number(row.ParentId) + kind;
 }
 
+QString AddedItemTag(const ItemRow& row) {
+    if (row.TypeId != kGeneralModule || row.IsFolder)
+        return ItemTag(row);
+    ItemRow tested = row;
+    tested.Tested = 1;
+    return ItemTag(tested);
+}
+
 QString ParentKeyOfTag(const QString& tag) {
     if (tag.isEmpty())
         return tag;

@@ -50,6 +50,9 @@ QString ItemImage(int typeId, bool tested, bool folder);
 // Key (prefix & id & kind) and tag (prefix & parent id & kind) of a row; empty when skipped.
 QString ItemKey(const ItemRow& row);
 QString ItemTag(const ItemRow& row);
+// The tag of a text item the add window has just made: ItemTag, except that an untested general
+// module is tagged with the tested word ("SC" & parent & "ModuleTested"), as it always has been.
+QString AddedItemTag(const ItemRow& row);
 // The key of the parent a tag names: "ROOT" when its first three characters are "SC0" or "SF0",
 // otherwise the tag with "Folder" appended unless it holds that word already.  Empty for an
 // empty tag (the root).

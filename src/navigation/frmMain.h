@@ -193,6 +193,10 @@ public:
     void DeleteNodeCommand();
     void AddItemCommand();
 
+    // ---- Item maintenance: the text item window, to add under a folder or edit an item ----
+    void mnuAddSourceCode_Click();
+    void mnuEditSource_Click();
+
     // ---- Keys of the window: F1 opens the help of the control that has the focus ----
     void Form_KeyDown(int& KeyCode, int Shift);
     void txtNotes_KeyDown(int& KeyCode, int Shift);
@@ -429,6 +433,10 @@ private:
     void connectOutput();
     // The add, rename, open and save commands of stored files, folders and categories.
     void connectMaintenance();
+    void connectSourceCode();
+    // After a maintenance window: the window enabled, the focus back on tvwMain with its node
+    // selected again, the pointer back.
+    void afterItemWindow();
     // The RTF, text and PDF exports: the copy dialog under the export's caption, then the file.
     void exportThroughCopyDialog(const FileExportKind& kind);
 

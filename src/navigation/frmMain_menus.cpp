@@ -145,6 +145,7 @@ void frmMain::connectMenus() {
          [this](Button& button) { tbToolBar_ButtonClick(button); });
     connectOutput();
     connectMaintenance();
+    connectSourceCode();
 }
 
 void frmMain::connectTrees() {

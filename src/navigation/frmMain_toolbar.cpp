@@ -51,11 +51,13 @@ const QHash<QString, Command>& toolBarCommands() {
     static const QHash<QString, Command> commands = {
         {QStringLiteral("Add Item"), [](frmMain& f) { f.AddItemCommand(); }},
         {QStringLiteral("AdvCopy"), [](frmMain& f) { f.AdvancedCopy(); }},
+        {QStringLiteral("Add SourceCode"), [](frmMain& f) { f.mnuAddSourceCode_Click(); }},
         {QStringLiteral("Back"), [](frmMain& f) { f.stepInTree(false); }},
         {QStringLiteral("BookMark"), [](frmMain& f) { f.AddBookmark(); }},
         {QStringLiteral("BookMarks"), [](frmMain& f) { f.SSTabNavigate->setTab(1); }},
         {QStringLiteral("Copy"), [](frmMain&) { Copy(); }},
         {QStringLiteral("DeleteNode"), [](frmMain& f) { f.DeleteNodeCommand(); }},
+        {QStringLiteral("Edit"), [](frmMain& f) { f.mnuEditSource_Click(); }},
         {QStringLiteral("Find"), [](frmMain& f) { f.SearchForText(); }},
         {QStringLiteral("Forward"), [](frmMain& f) { f.stepInTree(true); }},
         {QStringLiteral("Open DataBase"),

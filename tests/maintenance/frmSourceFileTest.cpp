@@ -4,6 +4,7 @@
 #include "Globals.h"
 #include "ListView.h"
 #include "SSTab.h"
+#include "Toolbar.h"
 #include "TreeView.h"
 #include "cLibraryService.h"
 #include "frmMain.h"
@@ -158,7 +159,7 @@ TEST_F(SourceFileWindow, AStoredFileIsAddedUpdatedWrittenBackAndFoundAfterAResta
         EXPECT_EQ(w.cboMajorSF->Text() + w.cboMinorSF->Text() + w.cboRevSF->Text(), "100");
         fillAndPress(w, {second, "Guide, second edition", true, "Second edition", "1"});
     });
-    form.ShowSourceFile(QStringLiteral("Update"));
+    EXPECT_TRUE(form.tbToolBar->PerformClick(QStringLiteral("Edit")));
     EXPECT_EQ(added.Text(), "Guide, second edition");
     EXPECT_EQ(form.txtFilename->text(), "guide-2.txt");
     EXPECT_EQ(versions(*form.lstSrcFileRevHist), QStringList({"1.0.0", "1.1.0"}));
@@ -216,7 +217,7 @@ TEST_F(SourceFileWindow, UpdateIsRefusedWithoutANewFileACommentOrANewVersion) {
             fillAndPress(w, c.entry);
             EXPECT_TRUE(w.isEnabled());
         });
-        form.ShowSourceFile(QStringLiteral("Update"));
+        EXPECT_TRUE(form.tbToolBar->PerformClick(QStringLiteral("Edit")));
         EXPECT_EQ(fileVersions(1), QStringList({"1.0.0 "}));
     }
 }

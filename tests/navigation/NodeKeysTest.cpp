@@ -54,6 +54,22 @@ TEST(NodeKeys, ItemRowsGiveKeyTagImageAndTheirParent) {
     }
 }
 
+TEST(NodeKeys, AddedTextItemsAreTaggedByTheirOwnStateButAnUntestedModuleAsTested) {
+    const struct {
+        int type;
+        int tested;
+        const char* tag;
+    } cases[] = {
+        {201, 1, "SC12CodeTested"},    {202, 1, "SC12TipTested"},    {203, 1, "SC12ClassTested"},
+        {204, 1, "SC12ModuleTested"},  {201, 2, "SC12CodeUnTested"}, {202, 2, "SC12TipUnTested"},
+        {203, 2, "SC12ClassUnTested"}, {204, 2, "SC12ModuleTested"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.tag);
+        EXPECT_EQ(AddedItemTag(row(12, 40, c.type, c.tested, false)), QLatin1String(c.tag));
+    }
+}
+
 TEST(NodeKeys, KeysOfEveryTreeReadBackToTheirIdFamilyAndType) {
     struct Case {
         QString key;
