@@ -69,9 +69,8 @@ void mainStoredFile(Gallery& g) {
 void sourceFileUpdate(Gallery& g) {
     frmMain& m = g.main();
     selectComponent(g);
-    // No menu entry reaches the update window yet; the main window's own step opens it.
     g.modal(
-        QStringLiteral("frmSourceFile"), [&m] { m.ShowSourceFile(QStringLiteral("Update")); },
+        QStringLiteral("frmSourceFile"), [&m] { m.mnuEditSource->trigger(); },
         [&g](FormBase& f) { g.save(f, QStringLiteral("source-file-update")); });
 }
 
@@ -154,11 +153,9 @@ void apiViewer(Gallery& g) {
         });
 }
 
-// ---- frmSourceCode: waiting for the window ----
+// ---- frmSourceCode ----
 // The code item window opens from Admin > Modify > Add SourceCode on a code folder and from
-// Admin > Modify > Edit on a code item.  Until it is built these shots find no window and are
-// reported as waiting.  Once the pictures come out right, set `waiting` false in kShots and add
-// them to the README's gallery.
+// Admin > Modify > Edit on a code item.
 void sourceCodeAdd(Gallery& g) {
     frmMain& m = g.main();
     g.click(*m.tvwCategories,
@@ -183,7 +180,6 @@ void sourceCodeUpdate(Gallery& g) {
 struct Shot {
     QStringList pictures; // what it saves, without ".png"
     void (*take)(Gallery&);
-    bool waiting = false; // the window is not built yet: a missing picture is no failure
 };
 
 const Shot kShots[] = {
@@ -196,8 +192,8 @@ const Shot kShots[] = {
     {{QStringLiteral("folder-type")}, folderType},
     {{QStringLiteral("author"), QStringLiteral("author-add")}, author},
     {{QStringLiteral("api-viewer")}, apiViewer},
-    {{QStringLiteral("source-code-add")}, sourceCodeAdd, true},
-    {{QStringLiteral("source-code-update")}, sourceCodeUpdate, true},
+    {{QStringLiteral("source-code-add")}, sourceCodeAdd},
+    {{QStringLiteral("source-code-update")}, sourceCodeUpdate},
 };
 
 } // namespace
@@ -210,12 +206,8 @@ int TakeShots(Gallery& g) {
         for (const QString& picture : shot.pictures) {
             if (g.saved().contains(picture))
                 continue;
-            if (shot.waiting) {
-                std::printf("waiting: %s (its window is not built yet)\n", qPrintable(picture));
-            } else {
-                std::fprintf(stderr, "gallery: MISSING %s\n", qPrintable(picture));
-                ++missing;
-            }
+            std::fprintf(stderr, "gallery: MISSING %s\n", qPrintable(picture));
+            ++missing;
         }
     }
     return missing;
