@@ -204,11 +204,6 @@ void frmMain::tvwMain_OLEDragDrop(const QMimeData& Data, int& Effect, int Button
         Effect = vbDropEffectNone;
         return;
     }
-    Node moved;
-    Node oldParent;
-    QString oldParentImage;
-    QString targetImage;
-    bool saving = false;
     try {
         if (!mnodMouseDown) {
             tree.setDropHighlight(Node());
@@ -223,10 +218,8 @@ void frmMain::tvwMain_OLEDragDrop(const QMimeData& Data, int& Effect, int Button
             return;
         }
         mblnFilling = true;
-        moved = mnodMouseDown;
-        oldParent = moved.Parent();
-        oldParentImage = oldParent ? oldParent.Image() : QString();
-        targetImage = target.Image();
+        Node moved = mnodMouseDown;
+        Node oldParent = moved.Parent();
         // The subtree moves with the node.
         moved.setParent(target);
         if (oldParent && oldParent.Image() == kOpenFolder && oldParent.Children() == 0)
@@ -241,7 +234,6 @@ void frmMain::tvwMain_OLEDragDrop(const QMimeData& Data, int& Effect, int Button
         setSelectionType(key, true);
 
         // The family is read from the target: a folder dropped on the root takes the code path.
-        saving = true;
         const auto library = NewLibrary();
         host().doEvents();
         const QString targetKey = target.Key();
@@ -258,7 +250,6 @@ void frmMain::tvwMain_OLEDragDrop(const QMimeData& Data, int& Effect, int Button
             file.ParentId(static_cast<int>(glngParentId));
             file.Save();
         }
-        saving = false;
 
         tree.setDropHighlight(Node());
         mnodMouseDown = Node();
@@ -267,17 +258,8 @@ void frmMain::tvwMain_OLEDragDrop(const QMimeData& Data, int& Effect, int Button
             tvwMain_NodeClick(selected);
         mblnFilling = false;
     } catch (...) {
-        // A move the library refuses is taken back, so that the tree shows what is stored.
-        if (saving && moved && oldParent) {
-            try {
-                Node target = moved.Parent();
-                moved.setParent(oldParent);
-                oldParent.setImage(oldParentImage);
-                if (target)
-                    target.setImage(targetImage);
-            } catch (...) {
-            }
-        }
+        // The node stays where it was dropped; the library keeps the old parent, and the tree
+        // shows it again at its next fill.  The drag ends, so the tree's handlers run again.
         tree.setDropHighlight(Node());
         mnodMouseDown = Node();
         tmrDrag->setEnabled(false);
