@@ -7,6 +7,7 @@
 #include "SyntheticLibrary.h"
 
 #include "ComboBox.h"
+#include "FormBase.h"
 #include "Globals.h"
 #include "Host.h"
 #include "TreeView.h"
@@ -21,7 +22,7 @@
 #include <QLineEdit>
 #include <QRadioButton>
 #include <algorithm>
-#include <memory>
+#include <cstdio>
 
 namespace qs::bench {
 
@@ -31,8 +32,10 @@ namespace {
 class SilentHost : public Host {
 public:
     int prompts = 0;
-    int msgBox(const QString&, int, const QString&) override {
+    int msgBox(const QString& prompt, int, const QString&) override {
         ++prompts;
+        // A message here means the figure measures something else; it is printed, not hidden.
+        std::fprintf(stderr, "bench: message box: %s\n", qPrintable(prompt));
         return vbOK;
     }
     QString inputBox(const QString&, const QString&, const QString&) override {
@@ -84,8 +87,8 @@ void FigureSearchFill(const BenchContext& context) {
     const auto& node = SyntheticLibrary::node(0);
     // Every synthetic item holds a public procedure, so the whole type node is found.
     const QString text = QStringLiteral("Public");
-    auto form = std::make_unique<frmMain>();
-    form->StartUp();
+    // Loaded as the login loads it: its start-up fills the search combos.
+    frmMain* form = &Forms::get<frmMain>();
     pick(*form->cboCategory, node.categoryId);
     pick(*form->cboCodeType, node.codeTypeId);
     form->cboTestedOrUntested->setText(node.tested == 1 ? QStringLiteral("Tested")
@@ -128,7 +131,9 @@ void FigureSearchFill(const BenchContext& context) {
                 shown.size(), inOrder && shown == expected && silent.prompts == 0,
                 {{QStringLiteral("nodes"), QString::number(tree.Nodes.Count())},
                  {QStringLiteral("search_ms"), QString::number(searchMs, 'f', 3)}});
-    form.reset();
+    Forms::destroyAll();
+    // The window's library object would keep the file open for the figures after this one.
+    gobjLibrary.reset();
     setHost(nullptr);
 }
 

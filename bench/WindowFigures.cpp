@@ -149,6 +149,7 @@ void FigureWindow(const BenchContext& context, const QString& path, const PlainT
                 extra);
 
     Forms::destroyAll();
+    gobjLibrary.reset();
     setHost(nullptr);
 }
 

@@ -100,7 +100,10 @@ void frmMain::FillTreeViewMain(long lngTypeId, long lngCategoryId, const QString
 
         // Collapsing fires the collapse events; mblnFilling keeps them from clicking.
         for (Node node : tree.Nodes) {
-            node.setExpanded(false);
+            // A leaf has nothing to collapse, and asking the view about it searches its
+            // siblings.
+            if (node.Children() > 0)
+                node.setExpanded(false);
             node.setSorted(true);
             node.setBackColor(vbWindowBackground);
         }
