@@ -71,8 +71,9 @@ QString readBack(const Kind& kind, const QString& path) {
 } // namespace
 
 TEST_F(FileExport, EachKindWritesTheDialogsTextToAFileItsReaderGivesBack) {
-    if (toolPath(QStringLiteral("pdftotext")).isEmpty())
-        GTEST_SKIP() << "pdftotext (poppler-utils) is not installed";
+    // The test command installs it; a missing tool fails rather than hides the check.
+    ASSERT_FALSE(toolPath(QStringLiteral("pdftotext")).isEmpty())
+        << "pdftotext (poppler-utils) is not installed";
     selectTheItem();
     const QString text = "' AUTHOR:  \tADA LOVELACE\r\n' DESCRIPTION: \t" + kDescription.toUpper() +
                          "\r\n\r\n\r\n'Source Code\r\n" + kCode + "\r\n";

@@ -52,8 +52,9 @@ void writeFile(const QString& path, const QByteArray& bytes) {
 } // namespace
 
 TEST_F(XmlExport, ItemAfterItemAppendsToAFileThatStaysWellFormed) {
-    if (toolPath(QStringLiteral("xmllint")).isEmpty())
-        GTEST_SKIP() << "xmllint (libxml2-utils) is not installed";
+    // The test command installs it; a missing tool fails rather than hides the check.
+    ASSERT_FALSE(toolPath(QStringLiteral("xmllint")).isEmpty())
+        << "xmllint (libxml2-utils) is not installed";
     const QString path = QDir(oddFolder()).filePath(QStringLiteral("items.xml"));
     const QString descriptions[] = {kDescription, QStringLiteral("Second & <last>"),
                                     QStringLiteral("Third \"one\"")};
