@@ -416,6 +416,9 @@ private:
     void connectSearch();
     // The delete and author commands and the drag events of tvwMain.
     void connectDeleteAndDrag();
+    // The code item into the panes, the outline under the selected node of `tree` by `parse`.
+    void loadCodeSnippet(long lngId, TreeView& tree, bool blnMainTree,
+                         void (frmMain::*parse)(const QString&, long));
     void deleteSelectedItem();
     void deleteSelectedCategory();
     // True when the drag data carries a node key in the format of mintDragFormat.

@@ -113,49 +113,53 @@ bool frmMain::ShouldParseModule(const Node& node, bool blnMainTree, bool blnChil
     return node.Image() == QLatin1String("Class3") || node.Image() == QLatin1String("Module");
 }
 
-// ---- The three loaders, one per tree, kept as near-copies ----
+// ---- The three loaders, one per tree: each reports its failures under its own name ----
+
+void frmMain::loadCodeSnippet(long lngId, TreeView& tree, bool blnMainTree,
+                              void (frmMain::*parse)(const QString&, long)) {
+    const auto library = NewLibrary();
+    mobjSourceCode.reset();
+    mobjSourceCode = FetchUnlessGone<cSourceCode>(
+        [&] { return library->GetSourceCode(static_cast<int>(lngId)); });
+    RichTextBoxCode->setTextRTF(QString());
+    txtNotes->clear();
+    txtExample->clear();
+    mblnFindHit = false;
+    RichTextBoxCode->setText(QString());
+    if (!mobjSourceCode) {
+        ClearOriginalControls();
+        ClearRevisionControls();
+        return;
+    }
+    // The record stays held across the yield of the outline.
+    const std::shared_ptr<cSourceCode> held = mobjSourceCode;
+    const cSourceCode& record = *held;
+    RichTextBoxCode->setTextRTF(record.Code());
+    txtVersionNo->setText(QStringLiteral("1.0.0"));
+    txtSourceAuthor->setText(record.AuthorFirstName() + QLatin1Char(' ') + record.AuthorLastName());
+    txtDateWritten->setText(DateString(record.DateWritten()));
+    txtDateEntered->setText(DateString(record.DateEntered()));
+    txtExample->setPlainText(record.Example());
+    txtNotes->setPlainText(record.Notes());
+    if (ShouldParseModule(tree.SelectedItem(), blnMainTree, mblnChildClick,
+                          mblnVisualBasicCategory))
+        (this->*parse)(record.Code(), lngId);
+    const QString newest = FillRevisionList(*lvwRevisionHistory, record.Revisions());
+    if (!newest.isEmpty() && newest != QLatin1String("0")) {
+        txtVersionNo->setText(newest);
+        SplitVersion(newest);
+        mblnSkipColumnToggle = true;
+        lvwRevisionHistory_ColumnClick(lvwRevisionHistory->ColumnHeaders(2));
+        mblnSkipColumnToggle = false;
+        mintSelectFirstRow = 1;
+        lvwRevisionHistory_Click();
+        mintSelectFirstRow = 0;
+    }
+}
 
 void frmMain::GetCodeSnippet(long lngId) {
     try {
-        const auto library = NewLibrary();
-        mobjSourceCode.reset();
-        mobjSourceCode = FetchUnlessGone<cSourceCode>(
-            [&] { return library->GetSourceCode(static_cast<int>(lngId)); });
-        RichTextBoxCode->setTextRTF(QString());
-        txtNotes->clear();
-        txtExample->clear();
-        mblnFindHit = false;
-        RichTextBoxCode->setText(QString());
-        if (!mobjSourceCode) {
-            ClearOriginalControls();
-            ClearRevisionControls();
-            return;
-        }
-        // The record stays held across the yield of the outline.
-        const std::shared_ptr<cSourceCode> held = mobjSourceCode;
-        const cSourceCode& record = *held;
-        RichTextBoxCode->setTextRTF(record.Code());
-        txtVersionNo->setText(QStringLiteral("1.0.0"));
-        txtSourceAuthor->setText(record.AuthorFirstName() + QLatin1Char(' ') +
-                                 record.AuthorLastName());
-        txtDateWritten->setText(DateString(record.DateWritten()));
-        txtDateEntered->setText(DateString(record.DateEntered()));
-        txtExample->setPlainText(record.Example());
-        txtNotes->setPlainText(record.Notes());
-        if (ShouldParseModule(tvwMain->SelectedItem(), true, mblnChildClick,
-                              mblnVisualBasicCategory))
-            ParseModule(record.Code(), lngId);
-        const QString newest = FillRevisionList(*lvwRevisionHistory, record.Revisions());
-        if (!newest.isEmpty() && newest != QLatin1String("0")) {
-            txtVersionNo->setText(newest);
-            SplitVersion(newest);
-            mblnSkipColumnToggle = true;
-            lvwRevisionHistory_ColumnClick(lvwRevisionHistory->ColumnHeaders(2));
-            mblnSkipColumnToggle = false;
-            mintSelectFirstRow = 1;
-            lvwRevisionHistory_Click();
-            mintSelectFirstRow = 0;
-        }
+        loadCodeSnippet(lngId, *tvwMain, true, &frmMain::ParseModule);
     } catch (...) {
         HandleFailure("frmMain:GetCodeSnippet;");
     }
@@ -163,45 +167,7 @@ void frmMain::GetCodeSnippet(long lngId) {
 
 void frmMain::GetCodeSnippetBk(long lngId) {
     try {
-        const auto library = NewLibrary();
-        mobjSourceCode.reset();
-        mobjSourceCode = FetchUnlessGone<cSourceCode>(
-            [&] { return library->GetSourceCode(static_cast<int>(lngId)); });
-        RichTextBoxCode->setTextRTF(QString());
-        txtNotes->clear();
-        txtExample->clear();
-        mblnFindHit = false;
-        RichTextBoxCode->setText(QString());
-        if (!mobjSourceCode) {
-            ClearOriginalControls();
-            ClearRevisionControls();
-            return;
-        }
-        // The record stays held across the yield of the outline.
-        const std::shared_ptr<cSourceCode> held = mobjSourceCode;
-        const cSourceCode& record = *held;
-        RichTextBoxCode->setTextRTF(record.Code());
-        txtVersionNo->setText(QStringLiteral("1.0.0"));
-        txtSourceAuthor->setText(record.AuthorFirstName() + QLatin1Char(' ') +
-                                 record.AuthorLastName());
-        txtDateWritten->setText(DateString(record.DateWritten()));
-        txtDateEntered->setText(DateString(record.DateEntered()));
-        txtExample->setPlainText(record.Example());
-        txtNotes->setPlainText(record.Notes());
-        if (ShouldParseModule(tvwBookMarks->SelectedItem(), false, mblnChildClick,
-                              mblnVisualBasicCategory))
-            ParseModuleBk(record.Code(), lngId);
-        const QString newest = FillRevisionList(*lvwRevisionHistory, record.Revisions());
-        if (!newest.isEmpty() && newest != QLatin1String("0")) {
-            txtVersionNo->setText(newest);
-            SplitVersion(newest);
-            mblnSkipColumnToggle = true;
-            lvwRevisionHistory_ColumnClick(lvwRevisionHistory->ColumnHeaders(2));
-            mblnSkipColumnToggle = false;
-            mintSelectFirstRow = 1;
-            lvwRevisionHistory_Click();
-            mintSelectFirstRow = 0;
-        }
+        loadCodeSnippet(lngId, *tvwBookMarks, false, &frmMain::ParseModuleBk);
     } catch (...) {
         HandleFailure("frmMain:GetCodeSnippetBk;");
     }
@@ -209,45 +175,7 @@ void frmMain::GetCodeSnippetBk(long lngId) {
 
 void frmMain::GetCodeSnippetSrch(long lngId) {
     try {
-        const auto library = NewLibrary();
-        mobjSourceCode.reset();
-        mobjSourceCode = FetchUnlessGone<cSourceCode>(
-            [&] { return library->GetSourceCode(static_cast<int>(lngId)); });
-        RichTextBoxCode->setTextRTF(QString());
-        txtNotes->clear();
-        txtExample->clear();
-        mblnFindHit = false;
-        RichTextBoxCode->setText(QString());
-        if (!mobjSourceCode) {
-            ClearOriginalControls();
-            ClearRevisionControls();
-            return;
-        }
-        // The record stays held across the yield of the outline.
-        const std::shared_ptr<cSourceCode> held = mobjSourceCode;
-        const cSourceCode& record = *held;
-        RichTextBoxCode->setTextRTF(record.Code());
-        txtVersionNo->setText(QStringLiteral("1.0.0"));
-        txtSourceAuthor->setText(record.AuthorFirstName() + QLatin1Char(' ') +
-                                 record.AuthorLastName());
-        txtDateWritten->setText(DateString(record.DateWritten()));
-        txtDateEntered->setText(DateString(record.DateEntered()));
-        txtExample->setPlainText(record.Example());
-        txtNotes->setPlainText(record.Notes());
-        if (ShouldParseModule(tvwSearchResults->SelectedItem(), false, mblnChildClick,
-                              mblnVisualBasicCategory))
-            ParseModuleSrch(record.Code(), lngId);
-        const QString newest = FillRevisionList(*lvwRevisionHistory, record.Revisions());
-        if (!newest.isEmpty() && newest != QLatin1String("0")) {
-            txtVersionNo->setText(newest);
-            SplitVersion(newest);
-            mblnSkipColumnToggle = true;
-            lvwRevisionHistory_ColumnClick(lvwRevisionHistory->ColumnHeaders(2));
-            mblnSkipColumnToggle = false;
-            mintSelectFirstRow = 1;
-            lvwRevisionHistory_Click();
-            mintSelectFirstRow = 0;
-        }
+        loadCodeSnippet(lngId, *tvwSearchResults, false, &frmMain::ParseModuleSrch);
     } catch (...) {
         HandleFailure("frmMain:GetCodeSnippetSrch;");
     }
