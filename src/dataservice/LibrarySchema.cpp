@@ -7,7 +7,7 @@ namespace qs {
 namespace {
 
 QStringList version1() {
-    return {
+    QStringList statements{
         QStringLiteral("CREATE TABLE LibraryInfo (Name TEXT PRIMARY KEY, Value TEXT NOT NULL "
                        "DEFAULT '')"),
         QStringLiteral("CREATE TABLE AccessType (Id INTEGER PRIMARY KEY, Code TEXT NOT NULL "
@@ -92,26 +92,6 @@ QStringList version1() {
                        "DELETE CASCADE, SourceFileId INTEGER NOT NULL REFERENCES SourceFile "
                        "(Id) ON DELETE CASCADE, UNIQUE (UserKey, SourceFileId))"),
         QStringLiteral("CREATE INDEX BkMark_SrcFile_Item ON BkMark_SrcFile (SourceFileId)"),
-        // The search index keeps no copy of the text: it reads SourceCode when it needs one.
-        QStringLiteral("CREATE VIRTUAL TABLE SourceCodeSearch USING fts5 (Description, Code, "
-                       "Notes, Example, content='SourceCode', content_rowid='Id', "
-                       "tokenize='unicode61 remove_diacritics 0')"),
-        QStringLiteral("CREATE TRIGGER SourceCode_SearchInsert AFTER INSERT ON SourceCode BEGIN "
-                       "INSERT INTO SourceCodeSearch (rowid, Description, Code, Notes, Example) "
-                       "VALUES (new.Id, new.Description, new.Code, new.Notes, new.Example); "
-                       "END"),
-        QStringLiteral("CREATE TRIGGER SourceCode_SearchDelete AFTER DELETE ON SourceCode BEGIN "
-                       "INSERT INTO SourceCodeSearch (SourceCodeSearch, rowid, Description, "
-                       "Code, Notes, Example) VALUES ('delete', old.Id, old.Description, "
-                       "old.Code, old.Notes, old.Example); END"),
-        QStringLiteral("CREATE TRIGGER SourceCode_SearchUpdate AFTER UPDATE OF Description, "
-                       "Code, Notes, Example ON SourceCode BEGIN "
-                       "INSERT INTO SourceCodeSearch (SourceCodeSearch, rowid, Description, "
-                       "Code, Notes, Example) VALUES ('delete', old.Id, old.Description, "
-                       "old.Code, old.Notes, old.Example); "
-                       "INSERT INTO SourceCodeSearch (rowid, Description, Code, Notes, Example) "
-                       "VALUES (new.Id, new.Description, new.Code, new.Notes, new.Example); "
-                       "END"),
         // The fixed rows.
         QStringLiteral("INSERT INTO AccessType (Id, Description) VALUES (1, 'Admin'), "
                        "(2, 'Read'), (3, 'Read/Write'), (4, 'Unauthorized')"),
@@ -123,13 +103,14 @@ QStringList version1() {
         QStringLiteral("INSERT INTO CodeStatus (Id, Description) VALUES (1, 'Tested'), "
                        "(2, 'UnTested')"),
     };
+    return statements + SearchIndexStatements(QStringLiteral("unicode61 remove_diacritics 0"));
 }
 
 } // namespace
 
 const QVector<SchemaMigration>& SchemaMigrations() {
-    static const QVector<SchemaMigration> migrations{{1, version1()},
-                                                     {2, SearchSchemaStatements()}};
+    static const QVector<SchemaMigration> migrations{
+        {1, version1()}, {2, SearchSchemaStatements()}, {3, SearchPiecesStatements()}};
     return migrations;
 }
 

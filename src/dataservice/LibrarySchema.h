@@ -33,6 +33,8 @@ namespace qs {
 //                                               Example), external content, rowid = Id,
 //                                               tokenizer "unicode61 remove_diacritics 0",
 //                                               kept in step by triggers on SourceCode
+// Version 2 adds covering indexes, version 3 makes the search index again with the piece
+// tokenizer (SearchSchema.h).
 // Revisions, chunks and bookmarks go with their item (ON DELETE CASCADE); bookmarks go with
 // their user.  An item, category or lookup row that is referred to cannot be deleted.  A
 // revision's author may go: the line stays with empty names.

@@ -1,5 +1,6 @@
 #include "SearchMatcher.h"
 
+#include "SearchTokenizer.h"
 #include "TokenCharacters.h"
 
 #include <QStringDecoder>
@@ -63,26 +64,33 @@ SearchMatcher::Piece SearchMatcher::makePiece(const QString& text, TokenCharacte
     Piece piece;
     piece.text = text;
     piece.needsWordStart = tokens.kind(codePointAt(text, 0)) == TokenCharacters::Kind::Word;
-    bool allLettersOrDigits = true;
     bool leadHasLetterOrDigit = false;
+    // Whether the index's tokens hold the piece exactly: its separators short enough to be
+    // kept whole, and none of the control characters a token may be cut or marked with.
+    bool indexable = text.size() <= kIndexedPieceLength;
+    int separatorRun = 0;
     int leadLength = 0;
     for (const QChar c : text) {
-        if (c.unicode() >= 0x80)
+        const ushort u = c.unicode();
+        if (u >= 0x80)
             break;
         ++leadLength;
-        if (isAsciiLetterOrDigit(c))
+        if (isAsciiLetterOrDigit(c)) {
             leadHasLetterOrDigit = true;
-        else
-            allLettersOrDigits = false;
+            separatorRun = 0;
+        } else {
+            indexable = indexable && ++separatorRun <= kSearchSeparatorBytes &&
+                        (u >= 0x20 || u == '\t' || u == '\n' || u == '\r');
+        }
     }
-    allLettersOrDigits = allLettersOrDigits && leadLength == text.size();
     if (leadLength == text.size()) {
         piece.asciiExact = text.toLatin1();
         piece.asciiLower = piece.asciiExact.toLower();
         piece.hasK = piece.asciiLower.contains('k');
         piece.hasS = piece.asciiLower.contains('s');
     }
-    piece.answeredByIndex = allLettersOrDigits;
+    piece.answeredByIndex =
+        indexable && leadLength == text.size() && isAsciiLetterOrDigit(text.at(0));
     if (leadHasLetterOrDigit)
         piece.indexQuery = ftsString(text.left(leadLength)) + QLatin1Char('*');
     return piece;

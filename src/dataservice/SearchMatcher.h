@@ -25,14 +25,17 @@ class TokenCharacters;
 // When a row matches.  Mode 0 and 1: some piece matches some field.  Mode 2: every piece
 // matches some field (not necessarily the same one).
 //
-// The index.  A piece of ASCII letters and digits only is answered by the index alone: the
-// FTS5 prefix query "piece"* finds exactly the rows the rule finds (the only characters outside
-// ASCII that Qt compares equal to ASCII letters, the Kelvin sign and the long s, the tokenizer
-// folds to the same letters).  Any other piece is narrowed by the leading ASCII part of it, as
-// a phrase whose last word is a prefix, and each candidate is confirmed by the rule; a piece
-// with no ASCII letter or digit before its first other character cannot be narrowed, and the
-// rows are scanned.  The narrowing never loses a row the rule finds: within ASCII the index and
-// the rule split words alike.
+// The index.  Its tokens are words joined to the separators after them (SearchTokenizer.h).  A
+// piece of ASCII characters alone that begins with a letter or digit, whose runs of other
+// characters are at most kSearchSeparatorBytes long and hold no control character but tab,
+// line feed and carriage return, is answered by the index alone: the FTS5 prefix phrase
+// "piece"* finds exactly the rows the rule finds (the only characters outside ASCII that Qt
+// compares equal to ASCII letters, the Kelvin sign and the long s, the tokenizer folds to the
+// same letters, and no character outside ASCII equals an ASCII separator).  Any other piece is
+// narrowed by the leading ASCII part of it, as the same phrase, and each candidate is
+// confirmed by the rule; a piece with no ASCII letter or digit before its first character
+// outside ASCII cannot be narrowed, and the rows are scanned.  The narrowing never loses a row
+// the rule finds: within ASCII the index and the rule split words alike.
 class SearchMatcher {
 public:
     struct Piece {
@@ -83,6 +86,9 @@ private:
     // are no well-formed character.
     ByteAnswer asciiPieceMatches(const Piece& piece, const QByteArray& field) const;
     ByteAnswer boundaryBeforeUtf8(const QByteArray& field, qsizetype index) const;
+
+    // Longer pieces are confirmed: a token is cut at 32 KB, and none that long is typed.
+    static constexpr int kIndexedPieceLength = 1000;
 
     TokenCharacters& mTokens;
     QVector<Piece> mPieces;

@@ -1,6 +1,7 @@
 #include "SqliteStore.h"
 
 #include "LibrarySchema.h"
+#include "SearchTokenizer.h"
 #include "ServiceErrors.h"
 #include "Utf16Text.h"
 
@@ -89,6 +90,8 @@ void SqliteStore::connect(const QString& source) {
     mDb.setConnectOptions(QStringLiteral("QSQLITE_BUSY_TIMEOUT=%1").arg(kBusyTimeoutMs));
     if (!mDb.open())
         raiseStorage(mDb.lastError().text(), source);
+    if (!InstallSearchTokenizer(mDb))
+        raiseStorage(QStringLiteral("The database engine has no full-text search."), source);
     QSqlQuery pragma(mDb);
     pragma.exec(QStringLiteral("PRAGMA foreign_keys = ON"));
 }

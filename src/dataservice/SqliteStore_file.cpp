@@ -5,11 +5,11 @@
 
 #include "CoalescingVfs.h"
 #include "ServiceErrors.h"
+#include "SqliteHandle.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSqlDriver>
 #include <QSqlError>
 
 #include <cstdio>
@@ -22,14 +22,6 @@ namespace qs {
 namespace {
 
 std::function<void()> gBeforeReplaceHook;
-
-// The engine's own handle of a connection; Qt's driver is built on the same library.
-sqlite3* HandleOf(const QSqlDatabase& db) {
-    const QVariant handle = db.driver()->handle();
-    if (!handle.isValid() || qstrcmp(handle.typeName(), "sqlite3*") != 0)
-        return nullptr;
-    return *static_cast<sqlite3* const*>(handle.constData());
-}
 
 // Forces what was written to the file, or to a folder's list of names, onto the disc.
 bool SyncPath(const QString& path, bool folder) {
@@ -50,7 +42,7 @@ void RemoveWithCompanions(const QString& path) {
 } // namespace
 
 void SqliteStore::backupTo(const QString& path, const QString& source) {
-    sqlite3* from = HandleOf(mDb);
+    sqlite3* from = SqliteHandleOf(mDb);
     if (!from)
         raiseStorage(QStringLiteral("The database engine gives no handle to copy from."), source);
     // Pages come from the mapped file where it holds them, without a read call each; they go out

@@ -1,5 +1,6 @@
 #include "TokenCharacters.h"
 
+#include "SearchTokenizer.h"
 #include "ServiceErrors.h"
 
 #include <QRegularExpression>
@@ -47,6 +48,10 @@ QString TokenCharacters::tokenizerOf(const QString& createStatement) {
         return QStringLiteral("unicode61");
     QString arguments = match.captured(1);
     arguments.replace(QLatin1String("''"), QLatin1String("'"));
+    // The words of the piece tokenizer are those of unicode61 with the same arguments.
+    const QString pieces = QLatin1String(kSearchTokenizer);
+    if (arguments == pieces || arguments.startsWith(pieces + QLatin1Char(' ')))
+        arguments.replace(0, pieces.size(), QStringLiteral("unicode61"));
     return arguments;
 }
 

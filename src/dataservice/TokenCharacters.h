@@ -20,7 +20,8 @@ public:
     static TokenCharacters& forTokenizer(const QString& tokenize, const QString& source);
 
     // The arguments of the tokenizer of the FTS5 table whose CREATE statement this is; the
-    // FTS5 default "unicode61" when it names none.
+    // FTS5 default "unicode61" when it names none.  The piece tokenizer of the search index
+    // gives the arguments of the unicode61 it splits words with.
     static QString tokenizerOf(const QString& createStatement);
 
     enum class Kind {

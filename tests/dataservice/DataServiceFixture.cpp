@@ -1,6 +1,7 @@
 #include "DataServiceFixture.h"
 
 #include "DatabaseLocation.h"
+#include "SearchTokenizer.h"
 #include "cSecurityService.h"
 
 #include <QCryptographicHash>
@@ -84,7 +85,9 @@ RawDb::RawDb(const QString& path) {
     QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), mName);
     db.setDatabaseName(path);
     db.setConnectOptions(QStringLiteral("QSQLITE_BUSY_TIMEOUT=10000"));
-    db.open();
+    // Raw writes to SourceCode reach the search index through its triggers.
+    if (db.open())
+        InstallSearchTokenizer(db);
 }
 
 RawDb::~RawDb() {

@@ -2,7 +2,12 @@
 #include "AppPaths.h"
 #include "DataServiceFixture.h"
 #include "DatabaseLocation.h"
+#include "LibrarySchema.h"
+#include "SearchSchema.h"
+#include "SearchTokenizer.h"
 #include "ServiceErrors.h"
+#include "cLibraryService.h"
+#include "cSourceCode.h"
 #include "cSecurityService.h"
 #include "mRegConstants.h"
 #include "mRegistry.h"
@@ -146,20 +151,44 @@ TEST_F(ForeignFile, DirectoryInPlaceOfTheFileIsRefused) {
 TEST_F(Opening, LibraryOfTheFirstVersionIsBroughtUpToDateAndKeepsItsRows) {
     const int id = addCode(QStringLiteral("Kept through the upgrade"));
     {
+        cSourceCode item = cLibraryService(dbPath).GetSourceCode(id);
+        item.BeginEdit(0);
+        item.Code(QStringLiteral("Set rs = New ADODB.Recordset"));
+        item.Save();
         // Take the file back to how the first version of the schema left it.
         RawDb raw(dbPath);
-        ASSERT_TRUE(raw.exec(QStringLiteral("DROP INDEX SourceCode_Rows")));
-        ASSERT_TRUE(raw.exec(QStringLiteral("DROP INDEX SourceCode_Node")));
-        ASSERT_TRUE(raw.exec(QStringLiteral("DELETE FROM SchemaVersion WHERE Version > 1")));
-        ASSERT_TRUE(raw.exec(QStringLiteral("PRAGMA user_version = 1")));
+        QStringList statements{QStringLiteral("DROP INDEX SourceCode_Rows"),
+                               QStringLiteral("DROP INDEX SourceCode_Node")};
+        for (const QString& trigger : {QStringLiteral("SourceCode_SearchInsert"),
+                                       QStringLiteral("SourceCode_SearchDelete"),
+                                       QStringLiteral("SourceCode_SearchUpdate")})
+            statements << QStringLiteral("DROP TRIGGER %1").arg(trigger);
+        statements << QStringLiteral("DROP TABLE SourceCodeSearch");
+        statements += SearchIndexStatements(QStringLiteral("unicode61 remove_diacritics 0"));
+        statements << QStringLiteral("INSERT INTO SourceCodeSearch (SourceCodeSearch) VALUES "
+                                     "('rebuild')")
+                   << QStringLiteral("DELETE FROM SchemaVersion WHERE Version > 1")
+                   << QStringLiteral("PRAGMA user_version = 1");
+        for (const QString& statement : statements)
+            ASSERT_TRUE(raw.exec(statement)) << statement.toStdString();
     }
     EXPECT_EQ(cLibraryService(dbPath).GetSourceCode(id).Description(),
               QStringLiteral("Kept through the upgrade"));
     RawDb raw(dbPath);
-    EXPECT_EQ(raw.value(QStringLiteral("SELECT MAX(Version) FROM SchemaVersion")).toInt(), 2);
-    EXPECT_EQ(raw.value(QStringLiteral("PRAGMA user_version")).toInt(), 2);
+    EXPECT_EQ(raw.value(QStringLiteral("SELECT MAX(Version) FROM SchemaVersion")).toInt(),
+              LatestSchemaVersion());
+    EXPECT_EQ(raw.value(QStringLiteral("PRAGMA user_version")).toInt(), LatestSchemaVersion());
     EXPECT_EQ(raw.value(QStringLiteral("SELECT COUNT(*) FROM sqlite_master WHERE name IN "
                                        "('SourceCode_Rows', 'SourceCode_Node')"))
                   .toInt(),
               2);
+    // The search index is made again with the piece tokenizer, from the rows already there.
+    EXPECT_TRUE(raw.value(QStringLiteral("SELECT sql FROM sqlite_master WHERE name = "
+                                         "'SourceCodeSearch'"))
+                    .toString()
+                    .contains(QLatin1String(kSearchTokenizer)));
+    const VbArray<ItemRow> hits =
+        cLibraryService(dbPath).Search(0, QStringLiteral("New ADODB.Recordset"), 0, 0, 0, 0, 0);
+    ASSERT_EQ(hits.UBound(), 1);
+    EXPECT_EQ(hits(1).Id, id);
 }

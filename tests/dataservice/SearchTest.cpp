@@ -1,6 +1,7 @@
 #include "DataServiceFixture.h"
 #include "SearchMatcher.h"
 #include "SearchSchema.h"
+#include "SearchTokenizer.h"
 #include "TokenCharacters.h"
 #include "cSourceCode.h"
 #include "cSourceFile.h"
@@ -153,6 +154,40 @@ TEST_F(SearchTest, ExactPhraseNeedsTheWordsTogetherInThatOrder) {
     add(QStringLiteral("registry  key"));
     EXPECT_EQ(ids(0, QStringLiteral("Registry Key")), QList<int>{together});
     EXPECT_EQ(ids(0, QStringLiteral("  registry key  ")), QList<int>{together});
+}
+
+// The index holds the separators between words, so a phrase is found only with its own.
+TEST_F(SearchTest, PunctuationBetweenWordsMatchesAsTyped) {
+    const auto run = [](int length) { return QString(length, QLatin1Char('=')); };
+    const int kept = kSearchSeparatorBytes;
+    const struct {
+        QString text;
+        QString phrase;
+        bool found;
+    } cases[] = {
+        {QStringLiteral("Set rs = New ADODB.Recordset"), QStringLiteral("New ADODB.Recordset"),
+         true},
+        {QStringLiteral("Set rs = New ADODB Recordset"), QStringLiteral("New ADODB.Recordset"),
+         false},
+        {QStringLiteral("x.NEW adodb.Recordsets"), QStringLiteral("New ADODB.Recordset"), true},
+        {QStringLiteral("xNew ADODB.Recordset"), QStringLiteral("New ADODB.Recordset"), false},
+        {QStringLiteral("a  b"), QStringLiteral("a b"), false},
+        {QStringLiteral("a\tb"), QStringLiteral("a b"), false},
+        {QStringLiteral("a\r\nb"), QStringLiteral("a\rb"), false},
+        {QStringLiteral("Call foo()"), QStringLiteral("foo("), true},
+        {QStringLiteral("Call foo (1)"), QStringLiteral("foo("), false},
+        {QStringLiteral("a\x01\x01b"), QStringLiteral("a\x01b"), false},
+        {QStringLiteral("a%1b").arg(run(kept)), QStringLiteral("a%1b").arg(run(kept)), true},
+        {QStringLiteral("a%1b").arg(run(kept + 6)), QStringLiteral("a%1b").arg(run(kept + 6)),
+         true},
+        {QStringLiteral("a%1b").arg(run(kept + 6)), QStringLiteral("a%1b").arg(run(kept)), false},
+        {QStringLiteral("a%1+b").arg(run(kept)), QStringLiteral("a%1").arg(run(kept)), true},
+    };
+    for (const auto& c : cases) {
+        const int id = add(QString(), c.text);
+        EXPECT_EQ(ids(0, c.phrase).contains(id), c.found)
+            << "text [" << c.text.toStdString() << "] phrase [" << c.phrase.toStdString() << "]";
+    }
 }
 
 TEST_F(SearchTest, AnyWordFindsRowsWithOneOfTheWords) {
@@ -413,20 +448,39 @@ TEST(SearchTokenizer, WordCharactersAreLearntFromTheIndexTokenizer) {
               QStringLiteral("unicode61 tokenchars '-'"));
     EXPECT_EQ(TokenCharacters::tokenizerOf(QStringLiteral("CREATE VIRTUAL TABLE t USING fts5(a)")),
               QStringLiteral("unicode61"));
+    EXPECT_EQ(TokenCharacters::tokenizerOf(
+                  QStringLiteral("CREATE VIRTUAL TABLE t USING fts5 (a, tokenize = '%1 "
+                                 "remove_diacritics 0')")
+                      .arg(QLatin1String(kSearchTokenizer))),
+              QStringLiteral("unicode61 remove_diacritics 0"));
 }
 
-TEST(SearchPieces, OnlyAsciiWordsAreLeftToTheIndexAlone) {
+TEST(SearchPieces, TheIndexAloneAnswersAsciiPiecesThatBeginAWord) {
     auto& tokens = TokenCharacters::forTokenizer(QStringLiteral("unicode61 remove_diacritics 0"),
                                                  QStringLiteral("test"));
-    const SearchMatcher matcher(1, QStringLiteral("Dim x.y \"q\" größe %"), tokens);
-    ASSERT_EQ(matcher.pieces().size(), 5);
-    EXPECT_TRUE(matcher.pieces()[0].answeredByIndex);
-    EXPECT_EQ(matcher.pieces()[0].indexQuery, QStringLiteral("\"Dim\"*"));
-    EXPECT_FALSE(matcher.pieces()[1].answeredByIndex);
-    EXPECT_EQ(matcher.pieces()[1].indexQuery, QStringLiteral("\"x.y\"*"));
-    EXPECT_EQ(matcher.pieces()[2].indexQuery, QStringLiteral("\"\"\"q\"\"\"*"));
-    EXPECT_EQ(matcher.pieces()[3].indexQuery, QStringLiteral("\"gr\"*"));
-    EXPECT_TRUE(matcher.pieces()[4].indexQuery.isEmpty());
+    const QString longRun(kSearchSeparatorBytes + 1, QLatin1Char('='));
+    const struct {
+        QString piece;
+        bool answered;
+        QString indexQuery;
+    } cases[] = {
+        {QStringLiteral("Dim"), true, QStringLiteral("\"Dim\"*")},
+        {QStringLiteral("New ADODB.Recordset"), true, QStringLiteral("\"New ADODB.Recordset\"*")},
+        {QStringLiteral("x(\"q\")\r\n\ty"), true, QStringLiteral("\"x(\"\"q\"\")\r\n\ty\"*")},
+        {QStringLiteral("\"q\""), false, QStringLiteral("\"\"\"q\"\"\"*")},
+        {QStringLiteral(".Recordset"), false, QStringLiteral("\".Recordset\"*")},
+        {QStringLiteral("größe"), false, QStringLiteral("\"gr\"*")},
+        {QStringLiteral("a") + longRun + QStringLiteral("b"), false,
+         QStringLiteral("\"a%1b\"*").arg(longRun)},
+        {QStringLiteral("a\x01b"), false, QStringLiteral("\"a\x01b\"*")},
+        {QStringLiteral("%"), false, QString()},
+    };
+    for (const auto& c : cases) {
+        const SearchMatcher matcher(0, c.piece, tokens);
+        ASSERT_EQ(matcher.pieces().size(), 1);
+        EXPECT_EQ(matcher.pieces()[0].answeredByIndex, c.answered) << c.piece.toStdString();
+        EXPECT_EQ(matcher.pieces()[0].indexQuery, c.indexQuery) << c.piece.toStdString();
+    }
 }
 
 // Texts built from words that meet at every kind of boundary, searched with pieces cut out of
@@ -450,7 +504,8 @@ void SearchTest::expectAgreementWithPlainScan() {
         QStringLiteral(" "),      QStringLiteral("\r\n"),   QStringLiteral("."),
         QStringLiteral("("),      QStringLiteral("\u201C"), QStringLiteral("\u00A0"),
         QStringLiteral("\u2014"), QStringLiteral("_"),      QString(),
-        QStringLiteral("  ")};
+        QStringLiteral("  "),     QStringLiteral(" = "),    QStringLiteral("\t"),
+        QStringLiteral("\x01"),   QString(kSearchSeparatorBytes + 2, QLatin1Char(' '))};
     QRandomGenerator random(20240501);
     const auto pick = [&](const QStringList& list) {
         return list.at(int(random.bounded(quint32(list.size()))));
@@ -475,12 +530,13 @@ void SearchTest::expectAgreementWithPlainScan() {
         save(item);
     }
 
-    const auto cutFrom = [&](const QString& source) {
+    const auto cutFrom = [&](const QString& source, int longest) {
         const QVector<char32_t> points = codePoints(source);
         if (points.isEmpty())
             return QString();
         const int from = int(random.bounded(quint32(points.size())));
-        const int length = 1 + int(random.bounded(quint32(std::min<int>(8, points.size() - from))));
+        const int length =
+            1 + int(random.bounded(quint32(std::min<int>(longest, points.size() - from))));
         return QString::fromUcs4(points.constData() + from, length);
     };
     int queries = 0;
@@ -492,13 +548,15 @@ void SearchTest::expectAgreementWithPlainScan() {
             query = pick(words);
             break;
         case 1:
-            query = cutFrom(items.at(int(random.bounded(quint32(items.size())))).code);
+            query = cutFrom(items.at(int(random.bounded(quint32(items.size())))).code, 30);
             break;
         case 2:
             query = pick(words) + pick(glue) + pick(words);
+            if (random.bounded(2) == 0)
+                query += pick(glue) + pick(words).left(2);
             break;
         default:
-            query = cutFrom(pick(words)) + QLatin1Char(' ') + cutFrom(pick(words));
+            query = cutFrom(pick(words), 8) + QLatin1Char(' ') + cutFrom(pick(words), 8);
             break;
         }
         const int mode = int(random.bounded(3));

@@ -231,7 +231,7 @@ TEST_F(SourceCodeRecord, SearchIndexFollowsInsertUpdateAndDelete) {
     const int id = addCode(QStringLiteral("Quicksort"));
     RawDb raw(dbPath);
     const QString hits = QStringLiteral(
-        "SELECT group_concat(rowid) FROM SourceCodeSearch WHERE SourceCodeSearch MATCH '%1'");
+        "SELECT group_concat(rowid) FROM SourceCodeSearch WHERE SourceCodeSearch MATCH '%1*'");
     EXPECT_EQ(raw.value(hits.arg("quicksort")).toInt(), id);
 
     cSourceCode item = cLibraryService(dbPath).GetSourceCode(id);
