@@ -7,8 +7,8 @@
 #include "SearchTokenizer.h"
 #include "ServiceErrors.h"
 #include "cLibraryService.h"
-#include "cSourceCode.h"
 #include "cSecurityService.h"
+#include "cSourceCode.h"
 #include "mRegConstants.h"
 #include "mRegistry.h"
 
@@ -159,9 +159,9 @@ TEST_F(Opening, LibraryOfTheFirstVersionIsBroughtUpToDateAndKeepsItsRows) {
         RawDb raw(dbPath);
         QStringList statements{QStringLiteral("DROP INDEX SourceCode_Rows"),
                                QStringLiteral("DROP INDEX SourceCode_Node")};
-        for (const QString& trigger : {QStringLiteral("SourceCode_SearchInsert"),
-                                       QStringLiteral("SourceCode_SearchDelete"),
-                                       QStringLiteral("SourceCode_SearchUpdate")})
+        for (const QString& trigger :
+             {QStringLiteral("SourceCode_SearchInsert"), QStringLiteral("SourceCode_SearchDelete"),
+              QStringLiteral("SourceCode_SearchUpdate")})
             statements << QStringLiteral("DROP TRIGGER %1").arg(trigger);
         statements << QStringLiteral("DROP TABLE SourceCodeSearch");
         statements += SearchIndexStatements(QStringLiteral("unicode61 remove_diacritics 0"));

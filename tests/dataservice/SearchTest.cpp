@@ -500,12 +500,20 @@ void SearchTest::expectAgreementWithPlainScan() {
         QStringLiteral("OR"),         QStringLiteral("NEAR"),        QStringLiteral("*"),
         QStringLiteral("a"),          QStringLiteral("1"),           QStringLiteral("--"),
     };
-    const QStringList glue{
-        QStringLiteral(" "),      QStringLiteral("\r\n"),   QStringLiteral("."),
-        QStringLiteral("("),      QStringLiteral("\u201C"), QStringLiteral("\u00A0"),
-        QStringLiteral("\u2014"), QStringLiteral("_"),      QString(),
-        QStringLiteral("  "),     QStringLiteral(" = "),    QStringLiteral("\t"),
-        QStringLiteral("\x01"),   QString(kSearchSeparatorBytes + 2, QLatin1Char(' '))};
+    const QStringList glue{QStringLiteral(" "),
+                           QStringLiteral("\r\n"),
+                           QStringLiteral("."),
+                           QStringLiteral("("),
+                           QStringLiteral("\u201C"),
+                           QStringLiteral("\u00A0"),
+                           QStringLiteral("\u2014"),
+                           QStringLiteral("_"),
+                           QString(),
+                           QStringLiteral("  "),
+                           QStringLiteral(" = "),
+                           QStringLiteral("\t"),
+                           QStringLiteral("\x01"),
+                           QString(kSearchSeparatorBytes + 2, QLatin1Char(' '))};
     QRandomGenerator random(20240501);
     const auto pick = [&](const QStringList& list) {
         return list.at(int(random.bounded(quint32(list.size()))));
