@@ -36,7 +36,6 @@ struct Run {
     void* context = nullptr;
     int (*sink)(void*, int, const char*, int, int, int) = nullptr;
     const char* text = nullptr;
-    int size = 0;
     bool prefixQuery = false;
     bool pending = false;
     std::string word;
@@ -115,7 +114,6 @@ int TokenizePieces(Fts5Tokenizer* tokenizer, void* context, int flags, const cha
     run.context = context;
     run.sink = sink;
     run.text = text;
-    run.size = size;
     run.prefixQuery = (flags & FTS5_TOKENIZE_QUERY) && (flags & FTS5_TOKENIZE_PREFIX);
     const int rc = pieces->words.xTokenize(pieces->wordsInstance, &run, flags, text, size, OnWord);
     if (rc != SQLITE_OK)
