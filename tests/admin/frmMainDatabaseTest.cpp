@@ -31,9 +31,8 @@ class MainDatabase : public AdminFixture {
 protected:
     void SetUp() override {
         AdminFixture::SetUp();
-        addUser(QStringLiteral("ada"), QStringLiteral("pw"), 1, QStringLiteral("Ada"),
-                QStringLiteral("Byron"));
-        logIn(QStringLiteral("ada"), QStringLiteral("pw"));
+        addUser("ada", "pw", 1, "Ada", "Byron");
+        logIn("ada", "pw");
     }
     static int addCode(const QString& path, const QString& name) {
         cSourceCode item(path);
@@ -43,21 +42,18 @@ protected:
         item.Tested(1);
         item.Description(name);
         item.Code(QString(3000, QLatin1Char('x')));
-        item.Revisions().Add(0).Version(QStringLiteral("1.0.0"));
+        item.Revisions().Add(0).Version("1.0.0");
         return item.Save();
     }
     static int items(const QString& path) {
-        return cLibraryService(path)
-            .GetItems(QStringLiteral("SourceCode"), 0, 0, 0, 0, 0, 0, 0)
-            .UBound();
+        return cLibraryService(path).GetItems("SourceCode", 0, 0, 0, 0, 0, 0, 0).UBound();
     }
     // The first-user form as a person fills it after a new database.
     void answerFirstUser(const QString& id) {
-        hostScript.expectMsgBox(QStringLiteral("Please add the first user"));
-        hostScript.onModal<frmUser>(QStringLiteral("frmUser"), [id](frmUser& form) {
+        hostScript.expectMsgBox("Please add the first user");
+        hostScript.onModal<frmUser>("frmUser", [id](frmUser& form) {
             EXPECT_EQ(form.Mode(), frmUser::ModeAdd);
-            fillUser(form, id, QStringLiteral("Eve"), QStringLiteral("Ng"), QStringLiteral("pw2"),
-                     QStringLiteral("Admin"));
+            fillUser(form, id, "Eve", "Ng", "pw2", "Admin");
             form.cmdUserUpdate_Click();
         });
     }
@@ -70,8 +66,7 @@ TEST_F(MainDatabase, CreateRefusesANameThatIsNoDatabaseOrAFileThatExistsAndChang
         const char* told; // nullptr: no message
     } cases[] = {
         {QString(), nullptr},
-        {home->file(QStringLiteral("New/data.txt")),
-         "You can only enter an access database (.mdb)."},
+        {home->file("New/data.txt"), "You can only enter an access database (.mdb)."},
         {mDatabase, "You can only enter an access database that does not already exist"},
         // Without its extension the name of an existing library is still that library.
         {mDatabase.chopped(4), "You can only enter an access database that does not already exist"},
@@ -85,20 +80,19 @@ TEST_F(MainDatabase, CreateRefusesANameThatIsNoDatabaseOrAFileThatExistsAndChang
             hostScript.expectMsgBox(QString::fromLatin1(c.told));
         form.mnuNewDatabase->trigger();
         EXPECT_EQ(hostScript.lastFileDialog().title,
-                  QStringLiteral("Please select path and enter new database name."));
-        EXPECT_EQ(hostScript.lastFileDialog().filter,
-                  QStringLiteral("MsAccess Files (*.mdb)|*.mdb"));
+                  "Please select path and enter new database name.");
+        EXPECT_EQ(hostScript.lastFileDialog().filter, "MsAccess Files (*.mdb)|*.mdb");
         EXPECT_TRUE(hostScript.lastFileDialog().forSave);
         EXPECT_EQ(hostScript.msgBoxes().size(), c.told ? 1 : 0);
         if (c.told) {
-            EXPECT_EQ(hostScript.msgBoxes().first().title, QStringLiteral("Database?"));
+            EXPECT_EQ(hostScript.msgBoxes().first().title, "Database?");
             EXPECT_EQ(hostScript.msgBoxes().first().icon(), vbInformation);
         }
         EXPECT_EQ(hostScript.mousePointer(), vbDefault);
         EXPECT_EQ(databaseSetting(REG_VAL_DATABASE_PATH), folder);
-        EXPECT_EQ(databaseSetting(REG_VAL_DATABASE_FILENAME), QStringLiteral("Quillstone.mdb"));
+        EXPECT_EQ(databaseSetting(REG_VAL_DATABASE_FILENAME), "Quillstone.mdb");
     }
-    EXPECT_FALSE(QDir(home->file(QStringLiteral("New"))).exists());
+    EXPECT_FALSE(QDir(home->file("New")).exists());
 }
 
 TEST_F(MainDatabase, CreateMakesTheLibraryNamesItTakesTheFirstUserAndShowsItWithoutALogin) {
@@ -135,28 +129,28 @@ TEST_F(MainDatabase, CreateMakesTheLibraryNamesItTakesTheFirstUserAndShowsItWith
 
 TEST_F(MainDatabase, CreateEndsTheProgramWhenTheFirstUserIsNotMade) {
     frmMain& form = Forms::get<frmMain>();
-    const QString path = home->file(QStringLiteral("Quit.mdb"));
+    const QString path = home->file("Quit.mdb");
     hostScript.answerFileDialog(path);
-    hostScript.expectMsgBox(QStringLiteral("Please add the first user"));
-    hostScript.onModal<frmUser>(QStringLiteral("frmUser"), [this](frmUser& user) {
-        hostScript.expectMsgBox(QStringLiteral("There are no users in the database."));
-        hostScript.expectMsgBox(QStringLiteral("Exiting without entering an employee"), vbYes);
+    hostScript.expectMsgBox("Please add the first user");
+    hostScript.onModal<frmUser>("frmUser", [this](frmUser& user) {
+        hostScript.expectMsgBox("There are no users in the database.");
+        hostScript.expectMsgBox("Exiting without entering an employee", vbYes);
         // Called, not clicked: the scripted End must unwind to here as the real one ends all.
         user.cmdExit_Click();
     });
     EXPECT_TRUE(hostScript.runToEnd([&] { form.mnuNewDatabase_Click(); }));
     // The settings already name the new, empty library: the next start asks for a first user.
-    EXPECT_EQ(databaseSetting(REG_VAL_DATABASE_FILENAME), QStringLiteral("Quit.mdb"));
+    EXPECT_EQ(databaseSetting(REG_VAL_DATABASE_FILENAME), "Quit.mdb");
     EXPECT_EQ(cSecurityService(path).GetUsers().UBound(), 0);
 }
 
 TEST_F(MainDatabase, BackupCopiesTheLibraryBesideItWithNoMessage) {
-    addCode(mDatabase, QStringLiteral("Saved"));
+    addCode(mDatabase, "Saved");
     frmMain& form = Forms::get<frmMain>();
     const int yields = hostScript.doEventsCount();
     form.mnuBackup->trigger();
-    const QFileInfoList made = QDir(QFileInfo(mDatabase).absolutePath() + QStringLiteral("/Backup"))
-                                   .entryInfoList(QDir::Files);
+    const QFileInfoList made =
+        QDir(QFileInfo(mDatabase).absolutePath() + "/Backup").entryInfoList(QDir::Files);
     ASSERT_EQ(made.size(), 1);
     EXPECT_EQ(items(made.first().absoluteFilePath()), 1);
     EXPECT_TRUE(hostScript.msgBoxes().isEmpty()) << hostScript.log().toStdString();
@@ -169,18 +163,18 @@ TEST_F(MainDatabase, CompactKeepsEveryItemAndSaysSoUnlessTheLibraryIsOpenElsewhe
     for (int i = 0; i < 30; ++i)
         addCode(mDatabase, QStringLiteral("item %1").arg(i));
     frmMain& form = Forms::get<frmMain>();
-    hostScript.expectMsgBox(QStringLiteral("Your database was successfully compacted."));
+    hostScript.expectMsgBox("Your database was successfully compacted.");
     form.mnuCompact->trigger();
-    EXPECT_EQ(hostScript.msgBoxes().last().title, QStringLiteral("Compacted Database"));
+    EXPECT_EQ(hostScript.msgBoxes().last().title, "Compacted Database");
     EXPECT_EQ(hostScript.msgBoxes().last().icon(), vbInformation);
     EXPECT_EQ(items(mDatabase), 30);
 
     cLibraryService elsewhere(mDatabase);
-    elsewhere.GetLookup(QStringLiteral("Category"));
-    hostScript.expectMsgBox(QStringLiteral("frmMain:mnuCompact_Click;"));
+    elsewhere.GetLookup("Category");
+    hostScript.expectMsgBox("frmMain:mnuCompact_Click;");
     form.mnuCompact->trigger();
     EXPECT_EQ(hostScript.msgBoxes().last().icon(), vbCritical);
-    EXPECT_TRUE(hostScript.msgBoxes().last().text.contains(QStringLiteral("open in another")));
+    EXPECT_TRUE(hostScript.msgBoxes().last().text.contains("open in another"));
     EXPECT_EQ(hostScript.mousePointer(), vbDefault);
     EXPECT_EQ(items(mDatabase), 30);
 }
