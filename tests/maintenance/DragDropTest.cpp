@@ -145,7 +145,7 @@ TEST_F(DragDrop, OnlyAFolderOfTheSameKindOrForAFolderTheRootTakesADrop) {
     }
 }
 
-TEST_F(DragDrop, ADropMovesTheNodeSwapsTheFolderImagesAndStoresOnlyTheNewParent) {
+TEST_F(DragDrop, ADropMovesTheNodeSwapsTheFolderImagesAndStoresOnlyTheNewParentUnlessRefused) {
     frmMain& form = openMixed();
     TreeView& tree = *form.tvwMain;
     tree.Nodes("SC2CodeTestedFolder").setExpanded(true);
@@ -159,24 +159,37 @@ TEST_F(DragDrop, ADropMovesTheNodeSwapsTheFolderImagesAndStoresOnlyTheNewParent)
         int parent;              // stored afterwards
         const char* targetImage; // afterwards
         const char* leftImage;   // of the folder it left, afterwards; "" for the root
+        bool refused = false;    // by the library, which keeps what it had
     };
     const Case cases[] = {
         {"SC3CodeTested", 3, "SC4CodeTestedFolder", 4, "OpenFolder", "ClosedFolder"},
         {"SC1CodeTested", 1, "SC2CodeTestedFolder", 2, "OpenFolder", ""},
         {"SC4CodeTestedFolder", 4, "SC2CodeTestedFolder", 2, "OpenFolder", ""},
         {"SC4CodeTestedFolder", 4, "ROOT", 0, "MainIco", "OpenFolder"},
+        // Meanwhile another user has put Helpers into Spare; this tree still shows both at the
+        // top.  The tree shows the move until its next fill.
+        {"SC4CodeTestedFolder", 4, "SC2CodeTestedFolder", 0, nullptr, "", true},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(std::string(c.dragged) + " on " + c.target);
         Node moved = tree.Nodes(QLatin1String(c.dragged));
         const Node left = moved.Parent();
+        if (c.refused) {
+            cSourceCode helpers = cLibraryService(mDatabase).GetSourceCode(2);
+            helpers.BeginEdit(0);
+            helpers.ParentId(4);
+            helpers.Save();
+            hostScript.expectMsgBox("lies inside");
+        }
         QMimeData data;
         startDrag(form, c.dragged, data);
         ASSERT_TRUE(dragOver(tree, at(tree, c.target), data));
-        EXPECT_TRUE(drop(tree, at(tree, c.target), data));
+        EXPECT_EQ(drop(tree, at(tree, c.target), data), !c.refused);
         EXPECT_EQ(moved.Parent().Key(), c.target);
         EXPECT_EQ(parentOf(c.id), c.parent);
-        EXPECT_EQ(moved.Parent().Image(), c.targetImage);
+        if (c.targetImage) {
+            EXPECT_EQ(moved.Parent().Image(), c.targetImage);
+        }
         if (*c.leftImage) {
             EXPECT_EQ(left.Image(), c.leftImage);
         }
@@ -184,30 +197,8 @@ TEST_F(DragDrop, ADropMovesTheNodeSwapsTheFolderImagesAndStoresOnlyTheNewParent)
         EXPECT_FALSE(form.mnodMouseDown);
         EXPECT_FALSE(form.mblnFilling);
     }
-    EXPECT_EQ(cLibraryService(mDatabase).GetSourceCode(3).Code(), before);
-}
-
-TEST_F(DragDrop, ADropTheLibraryRefusesIsReportedAndStoresNothing) {
-    frmMain& form = openMixed();
-    TreeView& tree = *form.tvwMain;
-    // Meanwhile another user puts Helpers into Spare; this tree still shows both at the top.
-    cSourceCode helpers = cLibraryService(mDatabase).GetSourceCode(2);
-    helpers.BeginEdit(0);
-    helpers.ParentId(4);
-    helpers.Save();
-
-    QMimeData data;
-    startDrag(form, "SC4CodeTestedFolder", data);
-    const QPoint target = at(tree, "SC2CodeTestedFolder");
-    ASSERT_TRUE(dragOver(tree, target, data));
-    hostScript.expectMsgBox("lies inside");
-    EXPECT_FALSE(drop(tree, target, data));
-    // The tree shows the move until its next fill; the library keeps what it had.
-    EXPECT_EQ(tree.Nodes("SC4CodeTestedFolder").Parent().Key(), "SC2CodeTestedFolder");
-    EXPECT_EQ(parentOf(4), 0);
     EXPECT_EQ(parentOf(2), 4);
-    EXPECT_FALSE(form.mblnFilling);
-    EXPECT_FALSE(form.mnodMouseDown);
+    EXPECT_EQ(cLibraryService(mDatabase).GetSourceCode(3).Code(), before);
 }
 
 TEST_F(DragDrop, TheTimerScrollsNearTheEdgesAndOpensAFolderHeldOverForElevenTicks) {

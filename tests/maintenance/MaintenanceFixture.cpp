@@ -43,19 +43,17 @@ void Maintenance::inWindow(const std::function<void()>& command,
     command();
 }
 
+namespace {
+template <class Record> void markDeleted(Record record) {
+    record.BeginEdit(0);
+    record.Deleted(true);
+    record.Save();
+}
+} // namespace
+
 void Maintenance::removeElsewhere(int id, bool file) const {
     cLibraryService library(mDatabase);
-    if (file) {
-        cSourceFile record = library.GetSourceFile(id);
-        record.BeginEdit(0);
-        record.Deleted(true);
-        record.Save();
-    } else {
-        cSourceCode record = library.GetSourceCode(id);
-        record.BeginEdit(0);
-        record.Deleted(true);
-        record.Save();
-    }
+    file ? markDeleted(library.GetSourceFile(id)) : markDeleted(library.GetSourceCode(id));
 }
 
 QString Maintenance::writeFile(const QString& name, const QByteArray& bytes) const {

@@ -136,6 +136,7 @@ TEST_F(SourceCodeUpdate, ListsStartAtTheLastEntryAndTheFirstMajorPickIsSkipped) 
     const int folder = addCode("F", 202, 1, 0, true);
     // The last entry is not the newest by date; the floor is taken from it all the same.
     const int id = addItem("Tip", 202, 1, folder, {"2.3.4", "1.0.0"});
+    const int newer = addItem("Tip 2", 202, 1, folder, {"1.0.0", "2.3.4"});
     frmMain& form = openAt("CTested1202", QStringLiteral("SC%1TipTestedFolder").arg(folder));
     click(*form.tvwMain, QStringLiteral("SC%1TipTested").arg(id));
     EXPECT_EQ(form.txtVersionNo->text(), "1.0.0");
@@ -147,12 +148,8 @@ TEST_F(SourceCodeUpdate, ListsStartAtTheLastEntryAndTheFirstMajorPickIsSkipped) 
         EXPECT_EQ(w.cboMinor->Text(), "0");
         w.cmdCancel->click();
     });
-    const int newer = addItem("Tip 2", 202, 1, folder, {"1.0.0", "2.3.4"});
-    form.Unload();
-    QCoreApplication::processEvents();
-    frmMain& again = openAt("CTested1202", QStringLiteral("SC%1TipTestedFolder").arg(folder));
-    click(*again.tvwMain, QStringLiteral("SC%1TipTested").arg(newer));
-    edit(again, [&](frmSourceCode& w) {
+    click(*form.tvwMain, QStringLiteral("SC%1TipTested").arg(newer));
+    edit(form, [&](frmSourceCode& w) {
         EXPECT_EQ(w.cboMajor->Text(), "2");
         EXPECT_EQ(entries(*w.cboMinor), QString::fromLatin1("3 4 5 6 7 8 9").split(' '));
         EXPECT_EQ(entries(*w.cboRev), QString::fromLatin1("4 5 6 7 8 9").split(' '));
@@ -345,7 +342,8 @@ TEST_F(SourceCodeUpdate, UpdatingAModuleBuildsItsOutlineAfreshFromTheNewText) {
 TEST_F(SourceCodeUpdate, EditOnAFolderOrTheRootAsksForAnItem) {
     const int folder = addCode("F", 201, 1, 0, true);
     frmMain& form = openAt("CTested1201", QStringLiteral("SC%1CodeTestedFolder").arg(folder));
-    for (const QString& key : {QStringLiteral("SC%1CodeTestedFolder").arg(folder), QStringLiteral("ROOT")}) {
+    for (const QString& key :
+         {QStringLiteral("SC%1CodeTestedFolder").arg(folder), QStringLiteral("ROOT")}) {
         SCOPED_TRACE(key.toStdString());
         click(*form.tvwMain, key);
         hostScript.expectMsgBox(QStringLiteral("Please make sure that you are on a ''Source Code'' "
