@@ -59,70 +59,62 @@ protected:
     }
 };
 
-TEST_F(MainDatabase, CreateRefusesANameThatIsNoDatabaseOrAFileThatExistsAndChangesNoSetting) {
+TEST_F(MainDatabase, CreateRefusesAnythingButANewDatabaseElseMakesItTakesItsFirstUserAndShowsIt) {
     frmMain& form = Forms::get<frmMain>();
+    const QString made1 = home->file("Made1"), made2 = home->file("Made2");
+    QDir().mkpath(made1);
+    QDir().mkpath(made2);
+    const char* const exists = "You can only enter an access database that does not already exist";
     const struct {
         QString answer;
-        const char* told; // nullptr: no message
+        const char* told; // the refusal, if any
+        QString made;     // the library made, if any
     } cases[] = {
-        {QString(), nullptr},
-        {home->file("New/data.txt"), "You can only enter an access database (.mdb)."},
-        {mDatabase, "You can only enter an access database that does not already exist"},
+        {QString(), nullptr, {}},
+        {home->file("New/data.txt"), "You can only enter an access database (.mdb).", {}},
+        {mDatabase, exists, {}},
         // Without its extension the name of an existing library is still that library.
-        {mDatabase.chopped(4), "You can only enter an access database that does not already exist"},
+        {mDatabase.chopped(4), exists, {}},
+        {made1 + "/data", nullptr, made1 + "/data.mdb"},
+        {made2 + "/DATA.MDB", nullptr, made2 + "/DATA.MDB"},
     };
-    const QString folder = databaseSetting(REG_VAL_DATABASE_PATH);
+    QString named = QFileInfo(mDatabase).absoluteFilePath(); // by the settings
+    int users = 0;
     for (const auto& c : cases) {
         SCOPED_TRACE(c.answer.toStdString());
         hostScript.clearCalls();
         hostScript.answerFileDialog(c.answer);
         if (c.told)
             hostScript.expectMsgBox(QString::fromLatin1(c.told));
+        if (!c.made.isEmpty())
+            answerFirstUser(QStringLiteral("eve%1").arg(++users));
         form.mnuNewDatabase->trigger();
         EXPECT_EQ(hostScript.lastFileDialog().title,
                   "Please select path and enter new database name.");
         EXPECT_EQ(hostScript.lastFileDialog().filter, "MsAccess Files (*.mdb)|*.mdb");
         EXPECT_TRUE(hostScript.lastFileDialog().forSave);
-        EXPECT_EQ(hostScript.msgBoxes().size(), c.told ? 1 : 0);
+        EXPECT_EQ(hostScript.msgBoxes().size(), c.told || !c.made.isEmpty() ? 1 : 0);
         if (c.told) {
             EXPECT_EQ(hostScript.msgBoxes().first().title, "Database?");
             EXPECT_EQ(hostScript.msgBoxes().first().icon(), vbInformation);
         }
         EXPECT_EQ(hostScript.mousePointer(), vbDefault);
-        EXPECT_EQ(databaseSetting(REG_VAL_DATABASE_PATH), folder);
-        EXPECT_EQ(databaseSetting(REG_VAL_DATABASE_FILENAME), "Quillstone.mdb");
+        if (!c.made.isEmpty()) {
+            named = c.made;
+            EXPECT_TRUE(QFileInfo(c.made).isFile());
+            EXPECT_TRUE(gblnFirstUser);
+            EXPECT_EQ(cSecurityService(c.made).GetUsers().UBound(), 1);
+            // The window works on the new library at once, with no login in between.
+            EXPECT_EQ(gobjLibrary->DatabasePath(), QFileInfo(c.made).absoluteFilePath());
+            EXPECT_EQ(Forms::find<frmLogin>(), nullptr);
+            EXPECT_TRUE(form.IsLoaded());
+            EXPECT_GT(form.tvwCategories->Nodes.Count(), 0);
+        }
+        EXPECT_EQ(databaseSetting(REG_VAL_DATABASE_PATH) + '/' +
+                      databaseSetting(REG_VAL_DATABASE_FILENAME),
+                  named);
     }
     EXPECT_FALSE(QDir(home->file("New")).exists());
-}
-
-TEST_F(MainDatabase, CreateMakesTheLibraryNamesItTakesTheFirstUserAndShowsItWithoutALogin) {
-    const struct {
-        const char* typed;
-        const char* made;
-    } names[] = {{"data", "data.mdb"}, {"DATA.MDB", "DATA.MDB"}};
-    frmMain& form = Forms::get<frmMain>();
-    int made = 0;
-    for (const auto& n : names) {
-        SCOPED_TRACE(n.typed);
-        const QString folder = home->file(QStringLiteral("Made%1").arg(++made));
-        QDir().mkpath(folder);
-        const QString path = folder + QLatin1Char('/') + QLatin1String(n.made);
-        hostScript.answerFileDialog(folder + QLatin1Char('/') + QLatin1String(n.typed));
-        answerFirstUser(QStringLiteral("eve%1").arg(made));
-        form.mnuNewDatabase->trigger();
-
-        EXPECT_TRUE(QFileInfo(path).isFile());
-        EXPECT_EQ(databaseSetting(REG_VAL_DATABASE_PATH), folder);
-        EXPECT_EQ(databaseSetting(REG_VAL_DATABASE_FILENAME), QLatin1String(n.made));
-        EXPECT_TRUE(gblnFirstUser);
-        EXPECT_EQ(cSecurityService(path).GetUsers().UBound(), 1);
-        // The window works on the new library at once, with no login in between.
-        EXPECT_EQ(gobjLibrary->DatabasePath(), QFileInfo(path).absoluteFilePath());
-        EXPECT_EQ(Forms::find<frmLogin>(), nullptr);
-        EXPECT_TRUE(form.IsLoaded());
-        EXPECT_GT(form.tvwCategories->Nodes.Count(), 0);
-        EXPECT_EQ(hostScript.mousePointer(), vbDefault);
-    }
     // The library the window had before is left as it was.
     EXPECT_EQ(cSecurityService(mDatabase).GetUsers().UBound(), 1);
 }
