@@ -12,13 +12,15 @@
 #include <QApplication>
 #include <QFileInfo>
 #include <QLineEdit>
+#include <QPushButton>
+#include <QTest>
 
 namespace qs::test {
 
 void AdminFixture::SetUp() {
     HostFixture::SetUp();
     addGlobalReset("core", [] { ResetGlobals(); });
-    mDatabase = home->file(QStringLiteral("Libraries/Quillstone.mdb"));
+    mDatabase = home->file("Libraries/Quillstone.mdb");
     cLibraryService(mDatabase).CreateDatabase(mDatabase, QString());
     const QFileInfo file(mDatabase);
     SaveRegSetting(QString::fromLatin1(REG_KEY_DATABASE),
@@ -35,11 +37,16 @@ void AdminFixture::addUser(const QString& id, const QString& password, short lev
     user.Password(password);
     user.FirstName(first);
     user.LastName(last);
-    user.Question(QStringLiteral("First pet"));
-    user.Answer(QStringLiteral("Rex"));
+    user.Question("First pet");
+    user.Answer("Rex");
     user.AccessLevel(level);
     const VbArray<UserRow> users = cSecurityService().GetUsers();
     user.Save(users.isEmpty() ? id : users(1).UserId, 0);
+}
+
+void AdminFixture::press(QPushButton* button) {
+    ASSERT_TRUE(button->isEnabled()) << button->objectName().toStdString();
+    QTest::mouseClick(button, Qt::LeftButton);
 }
 
 void AdminFixture::logIn(const QString& id, const QString& password) {
@@ -50,7 +57,7 @@ void AdminFixture::logIn(const QString& id, const QString& password) {
     gstrLastName = user->LastName();
     gstrUserName = gstrFirstName + QLatin1Char(' ') + gstrLastName;
     gintAccessLevel = user->AccessLevel();
-    gstrAccessType = gintAccessLevel == 1 ? QStringLiteral("Admin") : QStringLiteral("User");
+    gstrAccessType = gintAccessLevel == 1 ? "Admin" : "User";
 }
 
 void AdminFixture::showActive(frmUser& form) {
@@ -71,8 +78,8 @@ void AdminFixture::fillUser(frmUser& form, const QString& id, const QString& fir
     form.txtUserFName->setText(first);
     form.txtUserLName->setText(last);
     form.txtPassword->setText(password);
-    form.txtQuestion->setText(QStringLiteral("First pet"));
-    form.txtAnswer->setText(QStringLiteral("Rex"));
+    form.txtQuestion->setText("First pet");
+    form.txtAnswer->setText("Rex");
     chooseAccess(form, access);
 }
 

@@ -4,6 +4,8 @@
 
 #include <QString>
 
+class QPushButton;
+
 namespace qs {
 class frmUser;
 }
@@ -19,6 +21,8 @@ protected:
     // Stores a user in the library; the first one saves himself, later ones the first one.
     static void addUser(const QString& id, const QString& password, short level,
                         const QString& first, const QString& last);
+    // A real click on a button, which must be on.
+    static void press(QPushButton* button);
     // Fills the login globals as a good login of that stored user does.
     static void logIn(const QString& id, const QString& password);
     // Shows the window and makes it active, so that focus can be asserted.

@@ -14,7 +14,6 @@
 #include <QAction>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QTest>
 
 using namespace qs;
 using namespace qs::test;
@@ -31,10 +30,6 @@ protected:
         author.Save();
         return author.AuthorId();
     }
-    static void press(QPushButton* button) {
-        ASSERT_TRUE(button->isEnabled()) << button->objectName().toStdString();
-        QTest::mouseClick(button, Qt::LeftButton);
-    }
     static QStringList names() {
         QStringList list;
         for (const AuthorRow& row : cLibraryService().GetAuthors())
@@ -48,11 +43,10 @@ protected:
 };
 
 TEST_F(AuthorWindow, OpensOnTheUsersOwnEntryAndItsModesLockWhatTheyShould) {
-    const int ada = addAuthor(QStringLiteral("Ada"), QStringLiteral("Lovelace"));
-    const int bob = addAuthor(QStringLiteral("Bob"), QStringLiteral("Marley"));
-    gstrUserName = QStringLiteral("Bob Marley");
+    const int ada = addAuthor("Ada", "Lovelace");
+    const int bob = addAuthor("Bob", "Marley");
+    gstrUserName = "Bob Marley";
     frmAuthor& form = Forms::get<frmAuthor>();
-    EXPECT_EQ(form.Caption(), "Author Maintenance");
     EXPECT_EQ(form.cboAuthors->Text(), "Bob Marley");
     EXPECT_EQ(shown(form), QStringLiteral("%1 Bob Marley").arg(bob));
 
@@ -90,8 +84,8 @@ TEST_F(AuthorWindow, OpensOnTheUsersOwnEntryAndItsModesLockWhatTheyShould) {
 }
 
 TEST_F(AuthorWindow, AnExistingNameInAnyCaseIsQuestionedAndEveryNameOtherwisePasses) {
-    addAuthor(QStringLiteral("Ada"), QStringLiteral("Lovelace"));
-    addAuthor(QStringLiteral("Bob"), QStringLiteral("Marley"));
+    addAuthor("Ada", "Lovelace");
+    addAuthor("Bob", "Marley");
     frmAuthor& form = Forms::get<frmAuthor>();
     const QString addQuestion =
         QStringLiteral("This author already exists in the database. This might cause "
@@ -159,9 +153,9 @@ TEST_F(AuthorWindow, AnExistingNameInAnyCaseIsQuestionedAndEveryNameOtherwisePas
 }
 
 TEST_F(AuthorWindow, AnAuthorIsDeletedOnlyWhenNoItemCarriesHisName) {
-    const int coder = addAuthor(QStringLiteral("Ada"), QStringLiteral("Lovelace"));
-    const int writer = addAuthor(QStringLiteral("Bob"), QStringLiteral("Marley"));
-    const int idle = addAuthor(QStringLiteral("Cy"), QStringLiteral("Young"));
+    const int coder = addAuthor("Ada", "Lovelace");
+    const int writer = addAuthor("Bob", "Marley");
+    const int idle = addAuthor("Cy", "Young");
     cSourceCode code(mDatabase);
     code.BeginEdit(0);
     code.CategoryId(1);
@@ -219,13 +213,12 @@ TEST_F(AuthorWindow, AnAuthorIsDeletedOnlyWhenNoItemCarriesHisName) {
 }
 
 TEST_F(AuthorWindow, TheAdminMenuShowsItInsteadOfTheMainWindow) {
-    addUser(QStringLiteral("ada"), QStringLiteral("pw"), 1, QStringLiteral("Ada"),
-            QStringLiteral("Lovelace"));
-    logIn(QStringLiteral("ada"), QStringLiteral("pw"));
+    addUser("ada", "pw", 1, "Ada", "Lovelace");
+    logIn("ada", "pw");
     frmMain& main = Forms::get<frmMain>();
     main.show();
     bool mainHidden = false;
-    hostScript.onModal<frmAuthor>(QStringLiteral("frmAuthor"), [&](frmAuthor& form) {
+    hostScript.onModal<frmAuthor>("frmAuthor", [&](frmAuthor& form) {
         mainHidden = !main.isVisible();
         // With a user in the library, Exit just closes the window.
         press(form.cmdExit);

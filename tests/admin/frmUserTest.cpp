@@ -22,8 +22,9 @@ using namespace qs::test;
 
 namespace {
 
-const QString kRequired =
-    QStringLiteral("The following field(s) are required for update:.\r\n\r\n");
+const QString kRequired = "The following field(s) are required for update:.\r\n\r\n";
+const QString kTaken = QStringLiteral("Please enter a different UserId.\r\nThe UserId already "
+                                      "exists in the database.");
 
 cUser storedUser(const QString& id) {
     return cSecurityService().GetUser(id, QString(), id);
@@ -47,81 +48,71 @@ protected:
     }
 };
 
-TEST_F(FirstUser, IsStoredAsAdministratorAndAsAuthorAndPreparesTheLogin) {
-    frmUser& form = Forms::get<frmUser>();
-    EXPECT_EQ(form.Caption(), QStringLiteral("User Maintenance"));
-    EXPECT_EQ(form.cboUsers->ListCount(), 0);
-    form.cmdUserAdd_Click();
-    fillUser(form, QStringLiteral("ada"), QStringLiteral("Ada"), QStringLiteral("Byron"),
-             QStringLiteral("secret"), QStringLiteral("Admin"));
-    form.cmdUserUpdate_Click();
-
-    EXPECT_TRUE(hostScript.msgBoxes().isEmpty()) << hostScript.log().toStdString();
-    const cUser user =
-        cSecurityService().GetUser(QStringLiteral("ada"), QStringLiteral("secret"), QString());
-    EXPECT_EQ(user.UserId(), QStringLiteral("ada"));
-    EXPECT_EQ(user.AccessLevel(), 1);
-    EXPECT_EQ(user.FirstName(), QStringLiteral("Ada"));
-    EXPECT_EQ(user.Question(), QStringLiteral("First pet"));
-
-    const VbArray<AuthorRow> authors = cLibraryService().GetAuthors();
-    ASSERT_EQ(authors.UBound(), 1);
-    EXPECT_EQ(authors(1).FirstName, QStringLiteral("Ada"));
-    EXPECT_EQ(authors(1).LastName, QStringLiteral("Byron"));
-
-    EXPECT_EQ(gstrFirstUserId, QStringLiteral("ada"));
-    EXPECT_EQ(gstrFirstUserPassword, QStringLiteral("secret"));
-    EXPECT_EQ(gstrAccessType, QStringLiteral("Admin"));
-    EXPECT_EQ(gstrUserName, QStringLiteral("Ada Byron"));
-    EXPECT_EQ(gintAccessLevel, 1);
-    ASSERT_TRUE(gobjCurrentUser);
-    EXPECT_EQ(gobjCurrentUser->UserId(), QStringLiteral("ada"));
-    // Update pressed Exit, which found a user and closed the window.
-    EXPECT_EQ(Forms::find<frmUser>(), nullptr);
-    EXPECT_FALSE(gblnFirstUserCancelled);
-}
-
-TEST_F(FirstUser, ReadAccessIsRefusedWithFocusOnTheAccessType) {
+TEST_F(FirstUser, MustHaveWriteAccessAndIsStoredAsAdministratorAndAuthorAndPreparesTheLogin) {
     frmUser& form = Forms::get<frmUser>();
     showActive(form);
-    form.cmdUserAdd_Click();
-    fillUser(form, QStringLiteral("ada"), QStringLiteral("Ada"), QStringLiteral("Byron"),
-             QStringLiteral("secret"), QStringLiteral("Read"));
+    EXPECT_EQ(form.cboUsers->ListCount(), 0);
+    press(form.cmdUserAdd);
+    fillUser(form, "ada", "Ada", "Byron", "secret", "Read");
     hostScript.expectMsgBox(QStringLiteral("The first user has to be an ''Admin'' so that you "
                                            "can add people and modify data"));
-    form.cmdUserUpdate_Click();
-
+    press(form.cmdUserUpdate);
     EXPECT_EQ(hostScript.msgBoxes().first().icon(), vbInformation);
     EXPECT_EQ(QApplication::focusWidget(), form.cboAccessType);
     EXPECT_TRUE(cSecurityService().GetUsers().isEmpty());
     EXPECT_TRUE(cLibraryService().GetAuthors().isEmpty());
     EXPECT_EQ(form.Mode(), frmUser::ModeAdd);
-}
 
-TEST_F(FirstUser, ReadWriteAccessPassesYetTheUserIsStoredAsAdministrator) {
-    frmUser& form = Forms::get<frmUser>();
-    form.cmdUserAdd_Click();
-    fillUser(form, QStringLiteral("ada"), QStringLiteral("Ada"), QStringLiteral("Byron"),
-             QStringLiteral("secret"), QStringLiteral("Read/Write"));
-    form.cmdUserUpdate_Click();
-
+    // Read/Write passes, yet the first user is stored as an administrator.
+    chooseAccess(form, "Read/Write");
+    hostScript.clearCalls();
+    press(form.cmdUserUpdate);
     EXPECT_TRUE(hostScript.msgBoxes().isEmpty()) << hostScript.log().toStdString();
-    EXPECT_EQ(storedUser(QStringLiteral("ada")).AccessLevel(), 1);
+    const cUser user = cSecurityService().GetUser("ada", "secret", QString());
+    EXPECT_EQ(user.UserId(), "ada");
+    EXPECT_EQ(user.AccessLevel(), 1);
+    EXPECT_EQ(user.FirstName(), "Ada");
+    EXPECT_EQ(user.Question(), "First pet");
+
+    const VbArray<AuthorRow> authors = cLibraryService().GetAuthors();
+    ASSERT_EQ(authors.UBound(), 1);
+    EXPECT_EQ(authors(1).FirstName, "Ada");
+    EXPECT_EQ(authors(1).LastName, "Byron");
+
+    EXPECT_EQ(gstrFirstUserId, "ada");
+    EXPECT_EQ(gstrFirstUserPassword, "secret");
+    EXPECT_EQ(gstrAccessType, "Admin");
+    EXPECT_EQ(gstrUserName, "Ada Byron");
+    EXPECT_EQ(gintAccessLevel, 1);
+    ASSERT_TRUE(gobjCurrentUser);
+    EXPECT_EQ(gobjCurrentUser->UserId(), "ada");
+    // Update pressed Exit, which found a user and closed the window.
+    EXPECT_EQ(Forms::find<frmUser>(), nullptr);
+    EXPECT_FALSE(gblnFirstUserCancelled);
 }
 
 // Exit, Escape and the close box all ask before the program ends without a user.
 class FirstUserLeft : public FirstUser, public ::testing::WithParamInterface<Leave> {};
 
-TEST_P(FirstUserLeft, AnsweringYesEndsTheProgram) {
+TEST_P(FirstUserLeft, NoReturnsToTheUserIdAndYesEndsTheProgram) {
     frmUser& form = Forms::get<frmUser>();
     showActive(form);
-    hostScript.expectMsgBox(QStringLiteral("There are no users in the database."));
-    hostScript.expectMsgBox(QStringLiteral("Exiting without entering an employee will cause "),
-                            vbYes);
+    gblnFirstUserCancelled = true;
+    const QString noUsers = "There are no users in the database.";
+    hostScript.expectMsgBox(noUsers);
+    hostScript.expectMsgBox("Exiting without entering an employee", vbNo);
+    EXPECT_EQ(leave(form, GetParam(), form.cmdExit, form.txtUserFName),
+              GetParam() != Leave::CloseBox);
+    EXPECT_FALSE(hostScript.ended());
+    EXPECT_FALSE(gblnFirstUserCancelled);
+    EXPECT_EQ(Forms::find<frmUser>(), &form);
+    EXPECT_TRUE(form.isVisible());
+    EXPECT_EQ(QApplication::focusWidget(), form.txtUserId);
+
+    hostScript.expectMsgBox(noUsers);
+    hostScript.expectMsgBox("Exiting without entering an employee will cause ", vbYes);
     leave(form, GetParam(), form.cmdExit, form.txtUserFName);
     EXPECT_TRUE(hostScript.ended());
-
-    ASSERT_FALSE(hostScript.msgBoxes().isEmpty());
     const HostCall question = hostScript.msgBoxes().last();
     EXPECT_EQ(question.text, QStringLiteral("Exiting without entering an employee will cause "
                                             "\r\nthe program to exit completely.\r\n\r\nDo you "
@@ -129,22 +120,6 @@ TEST_P(FirstUserLeft, AnsweringYesEndsTheProgram) {
     EXPECT_EQ(question.buttons(), vbYesNo);
     EXPECT_EQ(question.icon(), vbQuestion);
     EXPECT_TRUE(gblnFirstUserCancelled);
-}
-
-TEST_P(FirstUserLeft, AnsweringNoReturnsToTheUserId) {
-    frmUser& form = Forms::get<frmUser>();
-    showActive(form);
-    gblnFirstUserCancelled = true;
-    hostScript.expectMsgBox(QStringLiteral("There are no users in the database."));
-    hostScript.expectMsgBox(QStringLiteral("Exiting without entering an employee"), vbNo);
-    EXPECT_EQ(leave(form, GetParam(), form.cmdExit, form.txtUserFName),
-              GetParam() != Leave::CloseBox);
-
-    EXPECT_FALSE(hostScript.ended());
-    EXPECT_FALSE(gblnFirstUserCancelled);
-    EXPECT_EQ(Forms::find<frmUser>(), &form);
-    EXPECT_TRUE(form.isVisible());
-    EXPECT_EQ(QApplication::focusWidget(), form.txtUserId);
 }
 
 INSTANTIATE_TEST_SUITE_P(Ways, FirstUserLeft, everyWay(), WayName());
@@ -156,245 +131,212 @@ class UserMaintenance : public AdminFixture {
 protected:
     void SetUp() override {
         AdminFixture::SetUp();
-        addUser(QStringLiteral("ada"), QStringLiteral("secret"), 1, QStringLiteral("Ada"),
-                QStringLiteral("Byron"));
-        addUser(QStringLiteral("bob"), QStringLiteral("pw"), 2, QStringLiteral("Bob"),
-                QStringLiteral("Stone"));
-        logIn(QStringLiteral("ada"), QStringLiteral("secret"));
+        addUser("ada", "secret", 1, "Ada", "Byron");
+        addUser("bob", "pw", 2, "Bob", "Stone");
+        logIn("ada", "secret");
     }
 };
 
-TEST_F(UserMaintenance, OpensOnTheLoggedInUserInViewMode) {
+TEST_F(UserMaintenance, OpensOnTheLoggedInUserInViewModeAndAnEntryShowsItsUser) {
     frmUser& form = Forms::get<frmUser>();
-
-    EXPECT_EQ(entries(*form.cboUsers), QStringList({QStringLiteral("Ada Byron  (ada)"),
-                                                    QStringLiteral("Bob Stone  (bob)")}));
-    EXPECT_EQ(form.cboUsers->Text(), QStringLiteral("Ada Byron  (ada)"));
-    EXPECT_EQ(form.txtUserId->text(), QStringLiteral("ada"));
-    EXPECT_EQ(form.txtPassword->text(), QStringLiteral("secret"));
-    EXPECT_EQ(form.txtAnswer->text(), QStringLiteral("Rex"));
-    EXPECT_EQ(form.cboAccessType->Text(), QStringLiteral("Admin"));
-    EXPECT_FALSE(entries(*form.cboAccessType).contains(QStringLiteral("Unauthorized")));
+    EXPECT_EQ(entries(*form.cboUsers), QStringList({"Ada Byron  (ada)", "Bob Stone  (bob)"}));
+    EXPECT_EQ(form.cboUsers->Text(), "Ada Byron  (ada)");
+    EXPECT_EQ(form.txtUserId->text(), "ada");
+    EXPECT_EQ(form.txtPassword->text(), "secret");
+    EXPECT_EQ(form.txtAnswer->text(), "Rex");
+    EXPECT_EQ(form.cboAccessType->Text(), "Admin");
+    EXPECT_FALSE(entries(*form.cboAccessType).contains("Unauthorized"));
     EXPECT_EQ(form.Mode(), frmUser::ModeView);
     EXPECT_TRUE(form.txtUserId->isReadOnly());
     EXPECT_TRUE(form.cmdUserAdd->isEnabled());
     EXPECT_FALSE(form.cmdUserUpdate->isEnabled());
     EXPECT_FALSE(form.cmdUserCancel->isEnabled());
-}
 
-TEST_F(UserMaintenance, ChoosingAnEntryShowsThatUser) {
-    frmUser& form = Forms::get<frmUser>();
     form.cboUsers->setListIndex(1);
-
-    EXPECT_EQ(form.txtUserId->text(), QStringLiteral("bob"));
-    EXPECT_EQ(form.txtUserLName->text(), QStringLiteral("Stone"));
-    EXPECT_EQ(form.cboAccessType->Text(), QStringLiteral("Read"));
+    EXPECT_EQ(form.txtUserId->text(), "bob");
+    EXPECT_EQ(form.txtUserLName->text(), "Stone");
+    EXPECT_EQ(form.cboAccessType->Text(), "Read");
 }
 
-TEST_F(UserMaintenance, EmptyFormNamesEveryMissingFieldInOrder) {
-    frmUser& form = Forms::get<frmUser>();
-    form.cmdUserAdd_Click();
-    EXPECT_EQ(form.Mode(), frmUser::ModeAdd);
-    EXPECT_FALSE(form.txtUserId->isReadOnly());
-    EXPECT_FALSE(form.cboUsers->isVisible());
-    hostScript.answerMsgBox(vbOK);
-    form.cmdUserUpdate_Click();
-
-    const HostCall box = hostScript.msgBoxes().first();
-    EXPECT_EQ(box.text, kRequired + QStringLiteral("UserId\r\n First Name\r\n Last Name\r\n "
-                                                   "Password\r\n Password Question\r\n Password "
-                                                   "Answer\r\n Access Level"));
-    EXPECT_EQ(box.icon(), vbCritical);
-    EXPECT_EQ(cSecurityService().GetUsers().UBound(), 2);
-    EXPECT_EQ(form.Mode(), frmUser::ModeAdd);
-}
-
-TEST_F(UserMaintenance, PartlyFilledFormNamesOnlyWhatIsMissing) {
-    frmUser& form = Forms::get<frmUser>();
-    form.cmdUserAdd_Click();
-    fillUser(form, QStringLiteral("cyd"), QStringLiteral("Cyd"), QString(), QString(), QString());
-    hostScript.answerMsgBox(vbOK);
-    form.cmdUserUpdate_Click();
-
-    EXPECT_EQ(hostScript.msgBoxes().first().text,
-              kRequired + QStringLiteral(" Last Name\r\n Password\r\n Access Level"));
-    EXPECT_EQ(storedUser(QStringLiteral("cyd")).UserId(), QStringLiteral("Q70707"));
-}
-
-TEST_F(UserMaintenance, TakenUserIdIsRefusedWithFocusOnTheId) {
+TEST_F(UserMaintenance, RefusalsNameWhatIsWrongAndStoreNothing) {
     frmUser& form = Forms::get<frmUser>();
     showActive(form);
-    form.cmdUserAdd_Click();
-    fillUser(form, QStringLiteral("bob"), QStringLiteral("Robert"), QStringLiteral("Other"),
-             QStringLiteral("changed"), QStringLiteral("Admin"));
-    form.txtUserFName->setFocus();
-    hostScript.expectMsgBox(QStringLiteral("Please enter a different UserId."));
-    form.cmdUserUpdate_Click();
-
-    const HostCall box = hostScript.msgBoxes().first();
-    EXPECT_EQ(box.text, QStringLiteral("Please enter a different UserId.\r\nThe UserId already "
-                                       "exists in the database."));
-    EXPECT_EQ(box.title, QStringLiteral("UserID?"));
-    EXPECT_EQ(box.icon(), vbInformation);
-    EXPECT_EQ(QApplication::focusWidget(), form.txtUserId);
-    const cUser bob = storedUser(QStringLiteral("bob"));
-    EXPECT_EQ(bob.FirstName(), QStringLiteral("Bob"));
-    EXPECT_EQ(bob.Password(), QStringLiteral("pw"));
-    EXPECT_EQ(bob.AccessLevel(), 2);
+    const QString all = QStringLiteral("UserId\r\n First Name\r\n Last Name\r\n Password\r\n "
+                                       "Password Question\r\n Password Answer\r\n Access Level");
+    const struct {
+        bool edit;          // Bob edited, and his id typed over; else a new user
+        const char* fields; // "id|first|last|password|access"; nullptr: nothing typed
+        QString message;
+        const char* title;
+        int icon;
+        QWidget* focus; // nullptr: not asserted
+    } cases[] = {
+        {false, nullptr, kRequired + all, "", vbCritical, nullptr},
+        {false, "cyd|Cyd|||", kRequired + " Last Name\r\n Password\r\n Access Level", "",
+         vbCritical, nullptr},
+        {false, "bob|Robert|Other|changed|Admin", kTaken, "UserID?", vbInformation, form.txtUserId},
+        {true, "ada", kTaken, "UserID?", vbInformation, form.txtUserId},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.message.toStdString());
+        const QStringList f = QString::fromLatin1(c.fields).split(QLatin1Char('|'));
+        if (c.edit) {
+            form.cboUsers->setListIndex(1);
+            press(form.cmdUserEdit);
+            form.txtUserId->setText(f[0]);
+        } else {
+            press(form.cmdUserAdd);
+            EXPECT_FALSE(form.txtUserId->isReadOnly());
+            EXPECT_FALSE(form.cboUsers->isVisible());
+            if (c.fields)
+                fillUser(form, f[0], f[1], f[2], f[3], f[4]);
+            form.txtUserFName->setFocus();
+        }
+        hostScript.clearCalls();
+        hostScript.answerMsgBox(vbOK);
+        press(form.cmdUserUpdate);
+        ASSERT_EQ(hostScript.msgBoxes().size(), 1);
+        const HostCall box = hostScript.msgBoxes().first();
+        EXPECT_EQ(box.text, c.message);
+        EXPECT_EQ(box.title, c.title);
+        EXPECT_EQ(box.icon(), c.icon);
+        if (c.focus) {
+            EXPECT_EQ(QApplication::focusWidget(), c.focus);
+        }
+        EXPECT_EQ(form.Mode(), c.edit ? frmUser::ModeEdit : frmUser::ModeAdd);
+        EXPECT_EQ(cSecurityService().GetUsers().UBound(), 2);
+        EXPECT_EQ(storedUser("cyd").UserId(), "Q70707");
+        const cUser bob = storedUser("bob");
+        EXPECT_EQ(bob.UserId(), "bob");
+        EXPECT_EQ(bob.FirstName(), "Bob");
+        EXPECT_EQ(bob.Password(), "pw");
+        EXPECT_EQ(bob.AccessLevel(), 2);
+        press(form.cmdUserCancel);
+    }
 }
 
-TEST_F(UserMaintenance, NewUserIsStoredListedAndShown) {
+TEST_F(UserMaintenance, ANewUserIsStoredListedAndShownAndAnEditKeepingItsIdSavesUnasked) {
     frmUser& form = Forms::get<frmUser>();
-    form.cmdUserAdd_Click();
-    fillUser(form, QStringLiteral("cyd"), QStringLiteral("Cyd"), QStringLiteral("Moss"),
-             QStringLiteral("pw3"), QStringLiteral("Read/Write"));
-    form.cmdUserUpdate_Click();
-
+    press(form.cmdUserAdd);
+    fillUser(form, "cyd", "Cyd", "Moss", "pw3", "Read/Write");
+    press(form.cmdUserUpdate);
     EXPECT_TRUE(hostScript.msgBoxes().isEmpty()) << hostScript.log().toStdString();
-    const cUser cyd = storedUser(QStringLiteral("cyd"));
-    EXPECT_EQ(cyd.UserId(), QStringLiteral("cyd"));
+    const cUser cyd = storedUser("cyd");
+    EXPECT_EQ(cyd.UserId(), "cyd");
     EXPECT_EQ(cyd.AccessLevel(), 3);
-    EXPECT_EQ(cyd.Password(), QStringLiteral("pw3"));
-    EXPECT_TRUE(entries(*form.cboUsers).contains(QStringLiteral("Cyd Moss  (cyd)")));
-    EXPECT_EQ(form.cboUsers->Text(), QStringLiteral("Cyd Moss  (cyd)"));
+    EXPECT_EQ(cyd.Password(), "pw3");
+    EXPECT_TRUE(entries(*form.cboUsers).contains("Cyd Moss  (cyd)"));
+    EXPECT_EQ(form.cboUsers->Text(), "Cyd Moss  (cyd)");
     EXPECT_EQ(form.Mode(), frmUser::ModeView);
     EXPECT_TRUE(form.cboUsers->isVisibleTo(&form));
     // Not a first user: no author is made.
     EXPECT_TRUE(cLibraryService().GetAuthors().isEmpty());
-}
 
-TEST_F(UserMaintenance, EditWithTheSameIdAsksNoDuplicateCheckAndSaves) {
-    frmUser& form = Forms::get<frmUser>();
-    form.cboUsers->setListIndex(1);
-    form.cmdUserEdit_Click();
+    form.cboUsers->setText("Bob Stone  (bob)");
+    ASSERT_EQ(form.txtUserId->text(), "bob");
+    press(form.cmdUserEdit);
     EXPECT_EQ(form.Mode(), frmUser::ModeEdit);
-    form.txtUserLName->setText(QStringLiteral("Mason"));
-    form.cmdUserUpdate_Click();
-
+    form.txtUserLName->setText("Mason");
+    press(form.cmdUserUpdate);
     EXPECT_TRUE(hostScript.msgBoxes().isEmpty()) << hostScript.log().toStdString();
-    EXPECT_EQ(storedUser(QStringLiteral("bob")).LastName(), QStringLiteral("Mason"));
-    EXPECT_EQ(form.cboUsers->Text(), QStringLiteral("Bob Mason  (bob)"));
+    EXPECT_EQ(storedUser("bob").LastName(), "Mason");
+    EXPECT_EQ(form.cboUsers->Text(), "Bob Mason  (bob)");
 }
 
-TEST_F(UserMaintenance, EditToAnotherUsersIdIsRefused) {
+TEST_F(UserMaintenance, CancelRestoresAnEditFromTheRecordAndDropsAnAdd) {
     frmUser& form = Forms::get<frmUser>();
     form.cboUsers->setListIndex(1);
-    form.cmdUserEdit_Click();
-    form.txtUserId->setText(QStringLiteral("ada"));
-    hostScript.expectMsgBox(QStringLiteral("The UserId already exists in the database."));
-    form.cmdUserUpdate_Click();
-
-    EXPECT_EQ(storedUser(QStringLiteral("bob")).UserId(), QStringLiteral("bob"));
-    EXPECT_EQ(form.Mode(), frmUser::ModeEdit);
-}
-
-TEST_F(UserMaintenance, CancelInEditModeRestoresTheBoxesFromTheRecord) {
-    frmUser& form = Forms::get<frmUser>();
-    form.cboUsers->setListIndex(1);
-    form.cmdUserEdit_Click();
-    form.txtUserFName->setText(QStringLiteral("Typed"));
-    form.txtPassword->setText(QStringLiteral("typed"));
-    form.cmdUserCancel_Click();
-
-    EXPECT_EQ(form.txtUserFName->text(), QStringLiteral("Bob"));
-    EXPECT_EQ(form.txtPassword->text(), QStringLiteral("pw"));
+    press(form.cmdUserEdit);
+    form.txtUserFName->setText("Typed");
+    form.txtPassword->setText("typed");
+    press(form.cmdUserCancel);
+    EXPECT_EQ(form.txtUserFName->text(), "Bob");
+    EXPECT_EQ(form.txtPassword->text(), "pw");
     EXPECT_EQ(form.Mode(), frmUser::ModeView);
-    EXPECT_EQ(storedUser(QStringLiteral("bob")).FirstName(), QStringLiteral("Bob"));
-}
+    EXPECT_EQ(storedUser("bob").FirstName(), "Bob");
 
-TEST_F(UserMaintenance, CancelInAddModeRefillsTheListAndStoresNothing) {
-    frmUser& form = Forms::get<frmUser>();
-    form.cmdUserAdd_Click();
-    fillUser(form, QStringLiteral("cyd"), QStringLiteral("Cyd"), QStringLiteral("Moss"),
-             QStringLiteral("pw3"), QStringLiteral("Read"));
-    form.cmdUserCancel_Click();
-
+    press(form.cmdUserAdd);
+    fillUser(form, "cyd", "Cyd", "Moss", "pw3", "Read");
+    press(form.cmdUserCancel);
     EXPECT_EQ(form.Mode(), frmUser::ModeView);
     EXPECT_EQ(form.cboUsers->ListCount(), 2);
-    EXPECT_EQ(storedUser(QStringLiteral("cyd")).UserId(), QStringLiteral("Q70707"));
+    EXPECT_EQ(storedUser("cyd").UserId(), "Q70707");
 }
 
-TEST_F(UserMaintenance, DeleteWithoutAnIdAsksForOne) {
+TEST_F(UserMaintenance, DeleteAsksForAnIdThenForConfirmation) {
     frmUser& form = Forms::get<frmUser>();
-    form.cmdUserAdd_Click();
-    form.cmdUserCancel_Click();
-    form.txtUserId->clear();
-    hostScript.expectMsgBox(QStringLiteral("Please enter either a UserId."));
-    form.cmdUserDelete_Click();
-
-    const HostCall box = hostScript.msgBoxes().first();
-    EXPECT_EQ(box.title, QStringLiteral("UserId"));
-    EXPECT_EQ(box.icon(), vbInformation);
-    EXPECT_EQ(cSecurityService().GetUsers().UBound(), 2);
-}
-
-TEST_F(UserMaintenance, DeleteAnsweredNoKeepsTheUser) {
-    frmUser& form = Forms::get<frmUser>();
-    form.cboUsers->setListIndex(1);
-    hostScript.expectMsgBox(QStringLiteral("Are you sure you want to delete the UserId: bob?."),
-                            vbNo);
-    form.cmdUserDelete_Click();
-
-    const HostCall box = hostScript.msgBoxes().first();
-    EXPECT_EQ(box.title, QStringLiteral("Delete User?"));
-    EXPECT_EQ(box.buttons(), vbYesNo);
-    EXPECT_EQ(box.icon(), vbExclamation);
-    EXPECT_EQ(storedUser(QStringLiteral("bob")).UserId(), QStringLiteral("bob"));
-}
-
-TEST_F(UserMaintenance, DeleteAnsweredYesRemovesTheUserFromStoreAndList) {
-    frmUser& form = Forms::get<frmUser>();
-    form.cboUsers->setListIndex(1);
-    hostScript.expectMsgBox(QStringLiteral("Are you sure you want to delete the UserId: bob?."),
-                            vbYes);
-    form.cmdUserDelete_Click();
-
-    EXPECT_EQ(hostScript.msgBoxes().size(), 1) << hostScript.log().toStdString();
-    EXPECT_EQ(storedUser(QStringLiteral("bob")).UserId(), QStringLiteral("Q70707"));
-    EXPECT_EQ(entries(*form.cboUsers), QStringList({QStringLiteral("Ada Byron  (ada)")}));
+    const QString question = "Are you sure you want to delete the UserId: bob?.";
+    const struct {
+        const char* id; // typed over the shown user's id; nullptr: Bob chosen in the list
+        int answer;     // 0: no question
+        const char* title;
+        int flags;
+        QStringList listed; // afterwards
+    } cases[] = {
+        {"", 0, "UserId", vbInformation, {"Ada Byron  (ada)", "Bob Stone  (bob)"}},
+        {nullptr,
+         vbNo,
+         "Delete User?",
+         vbYesNo | vbExclamation,
+         {"Ada Byron  (ada)", "Bob Stone  (bob)"}},
+        {nullptr, vbYes, "Delete User?", vbYesNo | vbExclamation, {"Ada Byron  (ada)"}},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.answer);
+        form.cboUsers->setListIndex(1);
+        if (c.id)
+            form.txtUserId->setText(QLatin1String(c.id));
+        hostScript.clearCalls();
+        hostScript.expectMsgBox(c.answer ? question : "Please enter either a UserId.",
+                                c.answer ? c.answer : vbOK);
+        press(form.cmdUserDelete);
+        ASSERT_EQ(hostScript.msgBoxes().size(), 1) << hostScript.log().toStdString();
+        EXPECT_EQ(hostScript.msgBoxes().first().title, c.title);
+        EXPECT_EQ(hostScript.msgBoxes().first().flags, c.flags);
+        EXPECT_EQ(storedUser("bob").UserId(), c.answer == vbYes ? "Q70707" : "bob");
+        EXPECT_EQ(entries(*form.cboUsers), c.listed);
+    }
 }
 
 TEST_F(UserMaintenance, RenamingOnesOwnIdKeepsTheSessionWorking) {
     const QString settings = SettingsFilePath();
-    const QString section = QStringLiteral("AppSettings");
+    const QString section = "AppSettings";
     QDir().mkpath(QFileInfo(settings).absolutePath());
-    ASSERT_TRUE(File_WriteSpecificKeyNameAndSetting_ToSpecificFile(
-        section, QStringLiteral("UserId"), QStringLiteral("ada"), settings));
+    ASSERT_TRUE(
+        File_WriteSpecificKeyNameAndSetting_ToSpecificFile(section, "UserId", "ada", settings));
     frmUser& form = Forms::get<frmUser>();
-    form.cmdUserEdit->click();
-    form.txtUserId->setText(QStringLiteral("adele"));
-    form.txtUserFName->setText(QStringLiteral("Adele"));
-    form.cmdUserUpdate->click();
+    press(form.cmdUserEdit);
+    form.txtUserId->setText("adele");
+    form.txtUserFName->setText("Adele");
+    press(form.cmdUserUpdate);
 
     EXPECT_TRUE(hostScript.msgBoxes().isEmpty()) << hostScript.log().toStdString();
-    EXPECT_EQ(gstrUserId, QStringLiteral("adele"));
-    EXPECT_EQ(gstrUserName, QStringLiteral("Adele Byron"));
+    EXPECT_EQ(gstrUserId, "adele");
+    EXPECT_EQ(gstrUserName, "Adele Byron");
     ASSERT_TRUE(gobjCurrentUser);
-    EXPECT_EQ(gobjCurrentUser->UserId(), QStringLiteral("adele"));
+    EXPECT_EQ(gobjCurrentUser->UserId(), "adele");
     EXPECT_EQ(gintAccessLevel, 1);
-    EXPECT_EQ(
-        File_GetSpecificKeySetting_FromSpecificFile(settings, section, QStringLiteral("UserId")),
-        QStringLiteral("adele"));
+    EXPECT_EQ(File_GetSpecificKeySetting_FromSpecificFile(settings, section, "UserId"), "adele");
 
     // The next save acts as the renamed administrator.
     form.cboUsers->setListIndex(1);
-    ASSERT_EQ(form.txtUserId->text(), QStringLiteral("bob"));
-    form.cmdUserEdit->click();
-    form.txtUserLName->setText(QStringLiteral("Mason"));
-    form.cmdUserUpdate->click();
+    ASSERT_EQ(form.txtUserId->text(), "bob");
+    press(form.cmdUserEdit);
+    form.txtUserLName->setText("Mason");
+    press(form.cmdUserUpdate);
     EXPECT_TRUE(hostScript.msgBoxes().isEmpty()) << hostScript.log().toStdString();
-    EXPECT_EQ(storedUser(QStringLiteral("bob")).LastName(), QStringLiteral("Mason"));
+    EXPECT_EQ(storedUser("bob").LastName(), "Mason");
 
     // And so does a bookmark.
     cSourceCode item;
     item.BeginEdit(0);
     item.CategoryId(1);
     item.CodeTypeId(201);
-    item.Description(QStringLiteral("Marked"));
+    item.Description("Marked");
     const int id = item.Save();
     cLibraryService library;
-    library.AddBookmark(QStringLiteral("BkMark_SrcCode"), id, gstrUserId);
-    EXPECT_EQ(library.GetBookmarks(QStringLiteral("BkMark_SrcCode"), gstrUserId).UBound(), 1);
+    library.AddBookmark("BkMark_SrcCode", id, gstrUserId);
+    EXPECT_EQ(library.GetBookmarks("BkMark_SrcCode", gstrUserId).UBound(), 1);
 }
 
 class UserMaintenanceLeft : public UserMaintenance, public ::testing::WithParamInterface<Leave> {};

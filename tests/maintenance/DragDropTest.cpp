@@ -28,19 +28,19 @@ protected:
     // Tested code of category 1 listed whatever its type: snippet Alpha (1), folder Helpers (2)
     // holding Pad (3), empty folder Spare (4), tip folder Tips (5), module Mod (6).
     frmMain& openMixed() {
-        addCode(QStringLiteral("Alpha"));
-        addCode(QStringLiteral("Helpers"), 201, 1, 0, true);
-        addCode(QStringLiteral("Pad"), 201, 1, 2);
-        addCode(QStringLiteral("Spare"), 201, 1, 0, true);
-        addCode(QStringLiteral("Tips"), 202, 1, 0, true);
-        addCode(QStringLiteral("Mod"), 204, 1);
+        addCode("Alpha");
+        addCode("Helpers", 201, 1, 0, true);
+        addCode("Pad", 201, 1, 2);
+        addCode("Spare", 201, 1, 0, true);
+        addCode("Tips", 202, 1, 0, true);
+        addCode("Mod", 204, 1);
         return openBranch();
     }
     // The window with every tested text item of category 1 in tvwMain.
     frmMain& openBranch() {
         frmMain& form = open();
         click(*form.tvwCategories, "TestedC1");
-        form.FillTreeViewMain(0, 1, QStringLiteral("SourceCode"));
+        form.FillTreeViewMain(0, 1, "SourceCode");
         return form;
     }
     static QPoint at(TreeView& tree, const QString& key) {
@@ -111,9 +111,7 @@ TEST_F(DragDrop, APressAndMoveStartsADragOfAnyNodeButTheRoot) {
 TEST_F(DragDrop, OnlyAFolderOfTheSameKindOrForAFolderTheRootTakesADrop) {
     frmMain& form = openMixed();
     TreeView& tree = *form.tvwMain;
-    tree.Nodes.Add(QStringLiteral("SC6ModuleTested"), tvwChild,
-                   QStringLiteral("6_SC6ModuleTestedSubsNoDrag"), QStringLiteral("Subs"),
-                   QStringLiteral("Sub"));
+    tree.Nodes.Add("SC6ModuleTested", tvwChild, "6_SC6ModuleTestedSubsNoDrag", "Subs", "Sub");
     struct Case {
         const char* dragged;
         const char* target;
@@ -135,7 +133,7 @@ TEST_F(DragDrop, OnlyAFolderOfTheSameKindOrForAFolderTheRootTakesADrop) {
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(std::string(c.dragged) + " over " + c.target);
-        tree.Nodes(QStringLiteral("SC6ModuleTested")).setExpanded(true);
+        tree.Nodes("SC6ModuleTested").setExpanded(true);
         QMimeData data;
         startDrag(form, c.dragged, data);
         QMimeData plain;
@@ -147,11 +145,11 @@ TEST_F(DragDrop, OnlyAFolderOfTheSameKindOrForAFolderTheRootTakesADrop) {
     }
 }
 
-TEST_F(DragDrop, ADropMovesTheNodeSwapsTheFolderImagesAndStoresOnlyTheNewParent) {
+TEST_F(DragDrop, ADropMovesTheNodeSwapsTheFolderImagesAndStoresOnlyTheNewParentUnlessRefused) {
     frmMain& form = openMixed();
     TreeView& tree = *form.tvwMain;
-    tree.Nodes(QStringLiteral("SC2CodeTestedFolder")).setExpanded(true);
-    ASSERT_EQ(tree.Nodes(QStringLiteral("SC2CodeTestedFolder")).Image(), "OpenFolder");
+    tree.Nodes("SC2CodeTestedFolder").setExpanded(true);
+    ASSERT_EQ(tree.Nodes("SC2CodeTestedFolder").Image(), "OpenFolder");
     const QString before = cLibraryService(mDatabase).GetSourceCode(3).Code();
 
     struct Case {
@@ -161,24 +159,37 @@ TEST_F(DragDrop, ADropMovesTheNodeSwapsTheFolderImagesAndStoresOnlyTheNewParent)
         int parent;              // stored afterwards
         const char* targetImage; // afterwards
         const char* leftImage;   // of the folder it left, afterwards; "" for the root
+        bool refused = false;    // by the library, which keeps what it had
     };
     const Case cases[] = {
         {"SC3CodeTested", 3, "SC4CodeTestedFolder", 4, "OpenFolder", "ClosedFolder"},
         {"SC1CodeTested", 1, "SC2CodeTestedFolder", 2, "OpenFolder", ""},
         {"SC4CodeTestedFolder", 4, "SC2CodeTestedFolder", 2, "OpenFolder", ""},
         {"SC4CodeTestedFolder", 4, "ROOT", 0, "MainIco", "OpenFolder"},
+        // Meanwhile another user has put Helpers into Spare; this tree still shows both at the
+        // top.  The tree shows the move until its next fill.
+        {"SC4CodeTestedFolder", 4, "SC2CodeTestedFolder", 0, nullptr, "", true},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(std::string(c.dragged) + " on " + c.target);
         Node moved = tree.Nodes(QLatin1String(c.dragged));
         const Node left = moved.Parent();
+        if (c.refused) {
+            cSourceCode helpers = cLibraryService(mDatabase).GetSourceCode(2);
+            helpers.BeginEdit(0);
+            helpers.ParentId(4);
+            helpers.Save();
+            hostScript.expectMsgBox("lies inside");
+        }
         QMimeData data;
         startDrag(form, c.dragged, data);
         ASSERT_TRUE(dragOver(tree, at(tree, c.target), data));
-        EXPECT_TRUE(drop(tree, at(tree, c.target), data));
+        EXPECT_EQ(drop(tree, at(tree, c.target), data), !c.refused);
         EXPECT_EQ(moved.Parent().Key(), c.target);
         EXPECT_EQ(parentOf(c.id), c.parent);
-        EXPECT_EQ(moved.Parent().Image(), c.targetImage);
+        if (c.targetImage) {
+            EXPECT_EQ(moved.Parent().Image(), c.targetImage);
+        }
         if (*c.leftImage) {
             EXPECT_EQ(left.Image(), c.leftImage);
         }
@@ -186,38 +197,15 @@ TEST_F(DragDrop, ADropMovesTheNodeSwapsTheFolderImagesAndStoresOnlyTheNewParent)
         EXPECT_FALSE(form.mnodMouseDown);
         EXPECT_FALSE(form.mblnFilling);
     }
+    EXPECT_EQ(parentOf(2), 4);
     EXPECT_EQ(cLibraryService(mDatabase).GetSourceCode(3).Code(), before);
 }
 
-TEST_F(DragDrop, ADropTheLibraryRefusesIsReportedAndStoresNothing) {
-    frmMain& form = openMixed();
-    TreeView& tree = *form.tvwMain;
-    // Meanwhile another user puts Helpers into Spare; this tree still shows both at the top.
-    cSourceCode helpers = cLibraryService(mDatabase).GetSourceCode(2);
-    helpers.BeginEdit(0);
-    helpers.ParentId(4);
-    helpers.Save();
-
-    QMimeData data;
-    startDrag(form, "SC4CodeTestedFolder", data);
-    const QPoint target = at(tree, "SC2CodeTestedFolder");
-    ASSERT_TRUE(dragOver(tree, target, data));
-    hostScript.expectMsgBox("lies inside");
-    EXPECT_FALSE(drop(tree, target, data));
-    // The tree shows the move until its next fill; the library keeps what it had.
-    EXPECT_EQ(tree.Nodes(QStringLiteral("SC4CodeTestedFolder")).Parent().Key(),
-              "SC2CodeTestedFolder");
-    EXPECT_EQ(parentOf(4), 0);
-    EXPECT_EQ(parentOf(2), 4);
-    EXPECT_FALSE(form.mblnFilling);
-    EXPECT_FALSE(form.mnodMouseDown);
-}
-
 TEST_F(DragDrop, TheTimerScrollsNearTheEdgesAndOpensAFolderHeldOverForElevenTicks) {
-    addCode(QStringLiteral("Zulu"));
+    addCode("Zulu");
     for (int i = 0; i < 40; ++i)
         addCode(QStringLiteral("Folder %1").arg(i, 2, 10, QLatin1Char('0')), 201, 1, 0, true);
-    addCode(QStringLiteral("Inner"), 201, 1, 2);
+    addCode("Inner", 201, 1, 2);
     frmMain& form = openBranch();
     TreeView& tree = *form.tvwMain;
     form.resize(700, 420);
@@ -254,7 +242,7 @@ TEST_F(DragDrop, TheTimerScrollsNearTheEdgesAndOpensAFolderHeldOverForElevenTick
 
     // Held over a closed folder with something in it, the folder opens on the eleventh tick.
     // The count of ticks goes on from the scrolling ones.
-    Node helpers = tree.Nodes(QStringLiteral("SC2CodeTestedFolder"));
+    Node helpers = tree.Nodes("SC2CodeTestedFolder");
     ASSERT_TRUE(dragOver(tree, at(tree, "SC2CodeTestedFolder"), data));
     for (long tick = form.mlngDragTicks + 1; tick <= 10; ++tick)
         form.tmrDrag->OnTimer();

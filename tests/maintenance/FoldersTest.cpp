@@ -28,19 +28,18 @@ protected:
     // Answers the folder dialog: the option of that type when one is given, the name, OK.
     void answerFolder(const QString& type, const QString& name,
                       std::function<void(frmChooseFolderType&)> look = {}) {
-        hostScript.onModal<frmChooseFolderType>(
-            QStringLiteral("frmChooseFolderType"), [=](frmChooseFolderType& d) {
-                if (look)
-                    look(d);
-                for (QRadioButton* opt :
-                     {d.optCodeFolder, d.optTipFolder, d.optClassFolder, d.optModFolder})
-                    if (opt->text().startsWith(type) && !type.isEmpty())
-                        opt->setChecked(true);
-                d.txtFolderName->setText(name);
-                QTest::keyClick(d.txtFolderName, Qt::Key_Return);
-                if (d.IsLoaded())
-                    d.cmdCancel->click();
-            });
+        hostScript.onModal<frmChooseFolderType>("frmChooseFolderType", [=](frmChooseFolderType& d) {
+            if (look)
+                look(d);
+            for (QRadioButton* opt :
+                 {d.optCodeFolder, d.optTipFolder, d.optClassFolder, d.optModFolder})
+                if (opt->text().startsWith(type) && !type.isEmpty())
+                    opt->setChecked(true);
+            d.txtFolderName->setText(name);
+            QTest::keyClick(d.txtFolderName, Qt::Key_Return);
+            if (d.IsLoaded())
+                d.cmdCancel->click();
+        });
     }
     static QStringList visibleOptions(const frmChooseFolderType& d) {
         QStringList out;
@@ -53,15 +52,15 @@ protected:
 };
 
 TEST_F(Folders, TheKindOfANewFolderFollowsWhereItIsMade) {
-    addCode(QStringLiteral("Classes"), 203, 1, 0, true); // 1
-    addFile(QStringLiteral("Docs"), 102, 0, true);       // 1
+    addCode("Classes", 203, 1, 0, true); // 1
+    addFile("Docs", 102, 0, true);       // 1
     struct Case {
         const char* category;
         const char* node;
         const char* pressed; // the option the person sets, when offered
         const char* key;
         const char* tag;
-        const char* options; // offered: "all", "none", or the file label
+        const char* fileLabel; // shown instead of the options, or nullptr
         const char* frame;
     };
     const Case cases[] = {
@@ -69,30 +68,24 @@ TEST_F(Folders, TheKindOfANewFolderFollowsWhereItIsMade) {
          "Folder Type"},
         {"FT1102", "SF1ComponentFolder", "", "SF3ComponentFolder", "SF1ComponentFolder",
          "Component Folder", "Folder Type"},
-        {"CTested1202", "ROOT", "", "SC2TipTestedFolder", "SC0TipTestedFolder", "none",
+        {"CTested1202", "ROOT", "", "SC2TipTestedFolder", "SC0TipTestedFolder", nullptr,
          "Select the Desired Folder Type"},
-        {"CUntested1201", "ROOT", "", "SC3CodeUnTestedFolder", "SC0CodeUnTestedFolder", "none",
+        {"CUntested1201", "ROOT", "", "SC3CodeUnTestedFolder", "SC0CodeUnTestedFolder", nullptr,
          "Select the Desired Folder Type"},
         // Under a tested class folder the kind is fixed whatever is pressed.
         {"CTested1203", "SC1ClassTestedFolder", "Tip", "SC4ClassTestedFolder",
-         "SC1ClassTestedFolder", "none", "Folder Type"},
+         "SC1ClassTestedFolder", nullptr, "Folder Type"},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.key);
-        frmMain& form = open();
-        click(*form.tvwCategories, c.category);
-        click(*form.tvwMain, c.node);
-        answerFolder(QString::fromLatin1(c.pressed), QStringLiteral("New"),
-                     [&](frmChooseFolderType& d) {
-                         const QString options = QString::fromLatin1(c.options);
-                         const bool all = options == QLatin1String("all");
-                         EXPECT_EQ(visibleOptions(d).size(), all ? 4 : 0);
-                         const bool file = options.contains("Folder");
-                         EXPECT_EQ(!d.lblFolderTypeName->isHidden(), file);
-                         EXPECT_EQ(d.lblFolderTypeName->text(), file ? options : QString());
-                         EXPECT_EQ(d.frmeOptions->title(), c.frame);
-                         EXPECT_EQ(d.cboAuthors->Text(), "Ada Lovelace");
-                     });
+        frmMain& form = openAt(QLatin1String(c.category), QLatin1String(c.node));
+        answerFolder(QString::fromLatin1(c.pressed), "New", [&](frmChooseFolderType& d) {
+            EXPECT_EQ(visibleOptions(d), QStringList());
+            EXPECT_EQ(d.lblFolderTypeName->isHidden(), !c.fileLabel);
+            EXPECT_EQ(d.lblFolderTypeName->text(), QLatin1String(c.fileLabel));
+            EXPECT_EQ(d.frmeOptions->title(), c.frame);
+            EXPECT_EQ(d.cboAuthors->Text(), "Ada Lovelace");
+        });
         ASSERT_TRUE(toolBar(form, "Add Folder"));
         Node made = form.tvwMain->SelectedItem();
         EXPECT_EQ(made.Key(), c.key);
@@ -144,36 +137,61 @@ TEST_F(Folders, TheDialogRefusesInOrderAndAcceptsOnlyWhenAllIsGiven) {
     }
     EXPECT_EQ(gstrFolderType, "Class");
     EXPECT_EQ(gstrFolderName, "New");
-    EXPECT_EQ(glngFolderAuthorId, mAuthorId);
+    EXPECT_EQ(glngFolderAuthorId, mAda);
 }
 
-TEST_F(Folders, ACancelledDialogWritesNothingAndGivesTheTreeTheFocus) {
+TEST_F(Folders, NothingIsWrittenWhenCancelledOnAnItemOrUnderAFolderGoneMeanwhile) {
+    addCode("Pad", 201, 1);
+    addCode("Snippets", 201, 1, 0, true);
     frmMain& form = open();
     click(*form.tvwCategories, "CTested1201");
-    click(*form.tvwMain, "ROOT");
-    hostScript.onModal<frmChooseFolderType>(QStringLiteral("frmChooseFolderType"),
-                                            [](frmChooseFolderType& d) { d.cmdCancel->click(); });
-    ASSERT_TRUE(toolBar(form, "Add Folder"));
-    EXPECT_EQ(rows(QStringLiteral("SourceCode")), QStringList());
-    EXPECT_EQ(form.tvwMain->Nodes.Count(), 1);
-    EXPECT_TRUE(form.tvwMain->hasFocus());
-}
-
-TEST_F(Folders, AFolderOnlyGoesUnderAFolderOrTheRoot) {
-    addCode(QStringLiteral("Pad"), 201, 1);
-    frmMain& form = open();
-    click(*form.tvwCategories, "CTested1201");
-    click(*form.tvwMain, "SC1CodeTested");
-    hostScript.expectMsgBox("Please click on a ''Folder'' or ''Root'' directory to add a folder.");
-    form.mnuAddFolder->trigger();
-    EXPECT_EQ(form.tvwMain->SelectedItem().Key(), "SC1CodeTested");
-    EXPECT_EQ(form.lblCodeSnipDescr->text(), "Pad");
-    EXPECT_TRUE(hostScript.callsOf("Modal").isEmpty());
+    const struct {
+        const char* node;
+        const char* told; // nullptr: nothing said
+        bool answered;    // the dialog is answered with a name, else cancelled
+        bool gone;        // the folder is removed meanwhile
+    } cases[] = {
+        {"ROOT", nullptr, false, false},
+        {"SC1CodeTested", "Please click on a ''Folder'' or ''Root'' directory to add a folder.",
+         false, false},
+        {"SC2CodeTestedFolder", "The parent folder is not valid", true, true},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.node);
+        click(*form.tvwMain, c.node);
+        const QString label = form.lblCodeSnipDescr->text();
+        if (c.gone)
+            removeElsewhere(2);
+        hostScript.clearCalls();
+        if (c.answered)
+            answerFolder(QString(), "Inner");
+        else if (!c.told)
+            hostScript.onModal<frmChooseFolderType>(
+                "frmChooseFolderType", [](frmChooseFolderType& d) { d.cmdCancel->click(); });
+        if (c.told)
+            hostScript.expectMsgBox(QLatin1String(c.told));
+        form.mnuAddFolder->trigger();
+        EXPECT_EQ(rows("SourceCode").size(), c.gone ? 1 : 2);
+        EXPECT_EQ(childKeys(*form.tvwMain, c.node),
+                  c.node == std::string("ROOT")
+                      ? QStringList({"SC1CodeTested", "SC2CodeTestedFolder"})
+                      : QStringList());
+        EXPECT_EQ(form.tvwMain->SelectedItem().Key(), c.node);
+        EXPECT_TRUE(form.isEnabled());
+        if (!c.told) {
+            EXPECT_TRUE(form.tvwMain->hasFocus());
+        }
+        const bool refused = c.told && !c.answered; // before the dialog
+        EXPECT_EQ(hostScript.callsOf("Modal").isEmpty(), refused);
+        if (refused) {
+            EXPECT_EQ(form.lblCodeSnipDescr->text(), label);
+        }
+    }
 }
 
 TEST_F(Folders, TheInsertKeyOffersAFolderOrAnItemOfTheFoldersFamily) {
-    addCode(QStringLiteral("Snippets"), 201, 1, 0, true);
-    addFile(QStringLiteral("Docs"), 101, 0, true);
+    addCode("Snippets", 201, 1, 0, true);
+    addFile("Docs", 101, 0, true);
     struct Case {
         const char* category;
         const char* node;
@@ -189,11 +207,9 @@ TEST_F(Folders, TheInsertKeyOffersAFolderOrAnItemOfTheFoldersFamily) {
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(std::string(c.node) + " " + c.choice);
-        frmMain& form = open();
-        click(*form.tvwCategories, c.category);
-        click(*form.tvwMain, c.node);
+        frmMain& form = openAt(QLatin1String(c.category), QLatin1String(c.node));
         hostScript.clearCalls();
-        hostScript.onModal<frmInsert>(QStringLiteral("frmInsert"), [&](frmInsert& d) {
+        hostScript.onModal<frmInsert>("frmInsert", [&](frmInsert& d) {
             EXPECT_EQ(d.optSource->text(), c.sourceCaption);
             EXPECT_FALSE(form.isEnabled());
             const QString choice = QString::fromLatin1(c.choice);
@@ -217,56 +233,6 @@ TEST_F(Folders, TheInsertKeyOffersAFolderOrAnItemOfTheFoldersFamily) {
         EXPECT_TRUE(form.isEnabled());
         form.Unload();
     }
-    // On an item the key does nothing here.
-    frmMain& form = open();
-    addCode(QStringLiteral("Pad"), 201, 1);
-    click(*form.tvwCategories, "CTested1201");
-    click(*form.tvwMain, "SC2CodeTested");
-    hostScript.clearCalls();
-    press(*form.tvwMain, Qt::Key_Insert);
-    EXPECT_TRUE(hostScript.callsOf("Modal").isEmpty());
-}
-
-TEST_F(Folders, AFolderIsMadeRenamedAndFoundAgainAfterARestart) {
-    frmMain& form = open();
-    click(*form.tvwCategories, "CTested1203");
-    click(*form.tvwMain, "ROOT");
-    answerFolder(QString(), QStringLiteral("Shapes"));
-    press(*form.tvwMain, Qt::Key_Insert); // on the root the key adds a folder at once
-    ASSERT_EQ(childKeys(*form.tvwMain, "ROOT"), QStringList({"SC1ClassTestedFolder"}));
-    EXPECT_EQ(rows(QStringLiteral("SourceCode")), QStringList({"1 Shapes"}));
-
-    // Rename through the tool bar's button: the label edit of the item tree.
-    ASSERT_TRUE(toolBar(form, "ReName Item"));
-    EXPECT_TRUE(form.tvwMain->IsLabelEditing());
-    auto* editor = form.tvwMain->viewport()->findChild<QLineEdit*>();
-    ASSERT_TRUE(editor);
-    editor->setText(QStringLiteral("Shapes and Solids"));
-    QTest::keyClick(editor, Qt::Key_Return);
-    QApplication::processEvents(); // the commit is queued
-    EXPECT_EQ(rows(QStringLiteral("SourceCode")), QStringList({"1 Shapes and Solids"}));
-
-    form.Unload();
-    frmMain& again = open();
-    click(*again.tvwCategories, "CTested1203");
-    EXPECT_EQ(again.tvwMain->Nodes("SC1ClassTestedFolder").Text(), "Shapes and Solids");
-}
-
-TEST_F(Folders, AFolderUnderAFolderGoneMeanwhileIsReportedAndNothingChanges) {
-    addCode(QStringLiteral("Snippets"), 201, 1, 0, true);
-    frmMain& form = open();
-    click(*form.tvwCategories, "CTested1201");
-    click(*form.tvwMain, "SC1CodeTestedFolder");
-    cSourceCode gone = cLibraryService(mDatabase).GetSourceCode(1);
-    gone.BeginEdit(0);
-    gone.Deleted(true);
-    gone.Save();
-    answerFolder(QString(), QStringLiteral("Inner"));
-    hostScript.expectMsgBox(QStringLiteral("The parent folder is not valid"));
-    ASSERT_TRUE(toolBar(form, "Add Folder"));
-    EXPECT_EQ(rows(QStringLiteral("SourceCode")), QStringList());
-    EXPECT_EQ(childKeys(*form.tvwMain, "SC1CodeTestedFolder"), QStringList());
-    EXPECT_TRUE(form.isEnabled());
 }
 
 } // namespace

@@ -26,11 +26,8 @@ class SourceFileWindow : public Maintenance {
 protected:
     // Articles of category 1 with the folder Docs (1), selected.
     frmMain& openDocs() {
-        addFile(QStringLiteral("Docs"), 101, 0, true);
-        frmMain& form = open();
-        click(*form.tvwCategories, "FT1101");
-        click(*form.tvwMain, "SF1ArticleFolder");
-        return form;
+        addFile("Docs", 101, 0, true);
+        return openAt("FT1101", "SF1ArticleFolder");
     }
 
     struct Entry {
@@ -54,12 +51,26 @@ protected:
     }
     // Runs the window with `body`, which must leave it closed or cancel it.
     void onWindow(std::function<void(frmSourceFile&)> body) {
-        hostScript.onModal<frmSourceFile>(QStringLiteral("frmSourceFile"),
-                                          [body](frmSourceFile& w) {
-                                              body(w);
-                                              if (w.IsLoaded())
-                                                  w.cmdCancel->click();
-                                          });
+        hostScript.onModal<frmSourceFile>("frmSourceFile", [body](frmSourceFile& w) {
+            body(w);
+            if (w.IsLoaded())
+                w.cmdCancel->click();
+        });
+    }
+    // The article Guide (1) loaded from a file of the home, with a first revision when told.
+    QString addGuide(bool revised) {
+        const QString file = writeFile("guide.txt", "text");
+        cSourceFile item(mDatabase);
+        item.LoadFile(file, mAda, 1, 101);
+        item.BeginEdit(0);
+        item.Description("Guide");
+        if (revised) {
+            cRevision& line = item.Revisions().Add(0);
+            line.Version("1.0.0");
+            line.DateRevised(QDateTime::currentDateTime());
+        }
+        item.Save();
+        return file;
     }
     QStringList fileVersions(int id) const {
         QStringList out;
@@ -71,37 +82,31 @@ protected:
 };
 
 TEST_F(SourceFileWindow, AddRefusesInOrderAndWritesNothing) {
-    const QString file = writeFile(QStringLiteral("guide.txt"), "text");
-    const QString gone = writeFile(QStringLiteral("gone.txt"), "text");
+    const QString file = writeFile("guide.txt", "text");
+    const QString gone = writeFile("gone.txt", "text");
     struct Case {
-        Entry entry;
-        bool removeChosenFile;
+        QString path;
+        const char* description;
+        bool author;
+        bool removeChosenFile; // between the browse and the Add
         const char* title;
         const char* message;
         const char* focus;
     };
+    const char* const fileTitle = "File path/Name?";
     const Case cases[] = {
-        {{file, "Guide", false, {}, {}},
-         false,
-         "User?",
-         "Please select the  adding the source file.",
+        {file, "Guide", false, false, "User?", "Please select the  adding the source file.",
          "cboAuthors"},
-        {{{}, "Guide", true, {}, {}},
+        {{},
+         "Guide",
+         true,
          false,
-         "File path/Name?",
+         fileTitle,
          "Please select or enter file path and name.",
          "txtFileNameSF"},
-        // The file went between the browse and the Add.
-        {{gone, "Guide", true, {}, {}},
-         true,
-         "File path/Name?",
-         "The file you are trying to add does not exist.",
+        {gone, "Guide", true, true, fileTitle, "The file you are trying to add does not exist.",
          "txtFileNameSF"},
-        {{file, "", true, {}, {}},
-         false,
-         "File path/Name?",
-         "Please enter a description.",
-         "txtDescriptionSF"},
+        {file, "", true, false, fileTitle, "Please enter a description.", "txtDescriptionSF"},
     };
     frmMain& form = openDocs();
     for (const Case& c : cases) {
@@ -110,12 +115,12 @@ TEST_F(SourceFileWindow, AddRefusesInOrderAndWritesNothing) {
             EXPECT_EQ(w.cboAuthors->Text(), "Ada Lovelace");
             EXPECT_FALSE(w.SSTabAboutFile->isTabEnabled(1));
             hostScript.expectMsgBox(QString::fromLatin1(c.message));
-            hostScript.answerFileDialog(c.entry.path);
+            hostScript.answerFileDialog(c.path);
             w.cmdBrowse->click();
             if (c.removeChosenFile)
-                QFile::remove(c.entry.path);
-            w.txtDescriptionSF->setText(c.entry.description);
-            if (!c.entry.author)
+                QFile::remove(c.path);
+            w.txtDescriptionSF->setText(QLatin1String(c.description));
+            if (!c.author)
                 w.cboAuthors->setListIndex(-1);
             w.CmdAddOrUpdate->click();
             ASSERT_FALSE(hostScript.msgBoxes().isEmpty());
@@ -126,7 +131,7 @@ TEST_F(SourceFileWindow, AddRefusesInOrderAndWritesNothing) {
             EXPECT_EQ(w.focusWidget()->objectName(), c.focus);
         });
         ASSERT_TRUE(toolBar(form, "Add SourceFile"));
-        EXPECT_EQ(rows(QStringLiteral("SourceFile")), QStringList({"1 Docs"}));
+        EXPECT_EQ(rows("SourceFile"), QStringList({"1 Docs"}));
         EXPECT_EQ(childKeys(*form.tvwMain, "SF1ArticleFolder"), QStringList());
         EXPECT_TRUE(form.isEnabled());
     }
@@ -134,7 +139,7 @@ TEST_F(SourceFileWindow, AddRefusesInOrderAndWritesNothing) {
 
 TEST_F(SourceFileWindow, AStoredFileIsAddedUpdatedWrittenBackAndFoundAfterARestart) {
     frmMain& form = openDocs();
-    const QString first = writeFile(QStringLiteral("guide.txt"), "first edition");
+    const QString first = writeFile("guide.txt", "first edition");
     onWindow([&](frmSourceFile& w) { fillAndPress(w, {first, "Guide", true, {}, {}}); });
     ASSERT_TRUE(toolBar(form, "Add SourceFile"));
 
@@ -150,7 +155,7 @@ TEST_F(SourceFileWindow, AStoredFileIsAddedUpdatedWrittenBackAndFoundAfterAResta
     EXPECT_EQ(fileVersions(2), QStringList({"1.0.0 Source File Added"}));
 
     // An update brings in a new file under a new version.
-    const QString second = writeFile(QStringLiteral("guide-2.txt"), "second edition, longer");
+    const QString second = writeFile("guide-2.txt", "second edition, longer");
     onWindow([&](frmSourceFile& w) {
         EXPECT_EQ(w.Caption(), "Updating Source File");
         EXPECT_EQ(w.lblFileName->text(), "New File Name:");
@@ -159,14 +164,14 @@ TEST_F(SourceFileWindow, AStoredFileIsAddedUpdatedWrittenBackAndFoundAfterAResta
         EXPECT_EQ(w.cboMajorSF->Text() + w.cboMinorSF->Text() + w.cboRevSF->Text(), "100");
         fillAndPress(w, {second, "Guide, second edition", true, "Second edition", "1"});
     });
-    EXPECT_TRUE(form.tbToolBar->PerformClick(QStringLiteral("Edit")));
+    EXPECT_TRUE(form.tbToolBar->PerformClick("Edit"));
     EXPECT_EQ(added.Text(), "Guide, second edition");
     EXPECT_EQ(form.txtFilename->text(), "guide-2.txt");
     EXPECT_EQ(versions(*form.lstSrcFileRevHist), QStringList({"1.0.0", "1.1.0"}));
     EXPECT_EQ(fileVersions(2).last(), "1.1.0 Second edition");
 
     // The stored copy goes out under the hourglass, the window back on afterwards.
-    const QString copy = home->file(QStringLiteral("copy-of-guide.txt"));
+    const QString copy = home->file("copy-of-guide.txt");
     hostScript.answerFileDialog(copy);
     hostScript.clearCalls();
     form.cmdSaveFile->click();
@@ -179,24 +184,14 @@ TEST_F(SourceFileWindow, AStoredFileIsAddedUpdatedWrittenBackAndFoundAfterAResta
     EXPECT_TRUE(form.isEnabled());
 
     form.Unload();
-    frmMain& again = open();
-    click(*again.tvwCategories, "FT1101");
-    click(*again.tvwMain, "SF2Article");
+    frmMain& again = openAt("FT1101", "SF2Article");
     EXPECT_EQ(again.lblCodeSnipDescr->text(), "Guide, second edition");
     EXPECT_EQ(again.txtFilename->text(), "guide-2.txt");
     EXPECT_EQ(versions(*again.lstSrcFileRevHist), QStringList({"1.0.0", "1.1.0"}));
 }
 
 TEST_F(SourceFileWindow, UpdateIsRefusedWithoutANewFileACommentOrANewVersion) {
-    const QString file = writeFile(QStringLiteral("guide.txt"), "text");
-    cSourceFile item(mDatabase);
-    item.LoadFile(file, mAuthorId, 1, 101);
-    item.BeginEdit(0);
-    item.Description(QStringLiteral("Guide"));
-    cRevision& line = item.Revisions().Add(0);
-    line.Version(QStringLiteral("1.0.0"));
-    line.DateRevised(QDateTime::currentDateTime());
-    item.Save();
+    const QString file = addGuide(true);
     struct Case {
         Entry entry;
         const char* message;
@@ -207,9 +202,7 @@ TEST_F(SourceFileWindow, UpdateIsRefusedWithoutANewFileACommentOrANewVersion) {
         {{file, "Guide", true, {}, "1"}, "Please enter a ''Revision Comment''"},
         {{file, "Guide", true, "Same number", {}}, "that is not in the current revision number"},
     };
-    frmMain& form = open();
-    click(*form.tvwCategories, "FT1101");
-    click(*form.tvwMain, "SF1Article");
+    frmMain& form = openAt("FT1101", "SF1Article");
     for (const Case& c : cases) {
         SCOPED_TRACE(c.message);
         onWindow([&](frmSourceFile& w) {
@@ -217,7 +210,7 @@ TEST_F(SourceFileWindow, UpdateIsRefusedWithoutANewFileACommentOrANewVersion) {
             fillAndPress(w, c.entry);
             EXPECT_TRUE(w.isEnabled());
         });
-        EXPECT_TRUE(form.tbToolBar->PerformClick(QStringLiteral("Edit")));
+        EXPECT_TRUE(form.tbToolBar->PerformClick("Edit"));
         EXPECT_EQ(fileVersions(1), QStringList({"1.0.0 "}));
     }
 }
@@ -225,18 +218,15 @@ TEST_F(SourceFileWindow, UpdateIsRefusedWithoutANewFileACommentOrANewVersion) {
 TEST_F(SourceFileWindow, AParentFolderGoneMeanwhileIsReportedAndNothingChanges) {
     frmMain& form = openDocs();
     // Another user removes the folder while this window still shows it.
-    cSourceFile folder = cLibraryService(mDatabase).GetSourceFile(1);
-    folder.BeginEdit(0);
-    folder.Deleted(true);
-    folder.Save();
-    const QString file = writeFile(QStringLiteral("guide.txt"), "text");
+    removeElsewhere(1, true);
+    const QString file = writeFile("guide.txt", "text");
     onWindow([&](frmSourceFile& w) {
-        hostScript.expectMsgBox(QStringLiteral("The parent folder is not valid"));
+        hostScript.expectMsgBox("The parent folder is not valid");
         fillAndPress(w, {file, "Guide", true, {}, {}});
         EXPECT_TRUE(w.isEnabled());
     });
     ASSERT_TRUE(toolBar(form, "Add SourceFile"));
-    EXPECT_EQ(rows(QStringLiteral("SourceFile")), QStringList());
+    EXPECT_EQ(rows("SourceFile"), QStringList());
     EXPECT_EQ(childKeys(*form.tvwMain, "SF1ArticleFolder"), QStringList());
 }
 
@@ -256,15 +246,8 @@ TEST_F(SourceFileWindow, SaveFilterFollowsTheLastThreeCharactersOfTheName) {
 }
 
 TEST_F(SourceFileWindow, OpenFileRunsTheRecordedFileAndShowsAFailure) {
-    const QString file = writeFile(QStringLiteral("guide.txt"), "text");
-    cSourceFile item(mDatabase);
-    item.LoadFile(file, mAuthorId, 1, 101);
-    item.BeginEdit(0);
-    item.Description(QStringLiteral("Guide"));
-    item.Save();
-    frmMain& form = open();
-    click(*form.tvwCategories, "FT1101");
-    click(*form.tvwMain, "SF1Article");
+    const QString file = addGuide(false);
+    frmMain& form = openAt("FT1101", "SF1Article");
     form.cmdOpenFile->click();
     ASSERT_EQ(hostScript.callsOf("Shell").size(), 1);
     EXPECT_EQ(hostScript.callsOf("Shell")[0].text, QFileInfo(file).absoluteFilePath());
