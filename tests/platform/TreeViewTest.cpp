@@ -262,15 +262,11 @@ TEST_F(TreeViewTest, ParentMoveCarriesTheWholeSubtreeWithItsState) {
 
     sub.setParent(b);
 
-    EXPECT_EQ(sub.Parent(), b);
-    EXPECT_EQ(leaf.Parent(), sub);
+    EXPECT_EQ(shape(tree), "ROOT*(A* B(A1*(A1x))) | A1x");
     EXPECT_EQ(a.Children(), 0);
-    EXPECT_EQ(b.Children(), 1);
     EXPECT_EQ(sub.Tag(), "tag of sub");
     EXPECT_EQ(sub.Image(), "OpenFolder");
-    EXPECT_TRUE(sub.Expanded());
     EXPECT_EQ(leaf.BackColor(), vbRed);
-    EXPECT_EQ(tree.SelectedItem(), leaf);
     EXPECT_EQ(tree.Nodes("A1x"), leaf);
     EXPECT_EQ(leaf.Root(), root);
     EXPECT_EQ(leaf.FullPath(), "Tarnwick\\Folder B\\Sub\\Leaf");
@@ -307,7 +303,7 @@ TEST_F(TreeViewTest, SortedOrdersChildrenByTextIgnoringCaseNowAndLater) {
 
 TEST_F(TreeViewTest, SortingKeepsExpandedNodesAndTheSelectionWhereTheyAre) {
     Node b = tree.Nodes.Add("ROOT", tvwChild, "B", "beta");
-    Node a = tree.Nodes.Add("ROOT", tvwChild, "A", "alpha");
+    tree.Nodes.Add("ROOT", tvwChild, "A", "alpha");
     Node b1 = tree.Nodes.Add("B", tvwChild, "B1", "b1");
     tree.Nodes.Add("B1", tvwChild, "B1x", "leaf");
     root.setExpanded(true);
@@ -319,11 +315,7 @@ TEST_F(TreeViewTest, SortingKeepsExpandedNodesAndTheSelectionWhereTheyAre) {
 
     root.setSorted(true);
 
-    EXPECT_EQ(childTexts(root), QStringList({"alpha", "beta"}));
-    EXPECT_TRUE(b.Expanded());
-    EXPECT_TRUE(b1.Expanded());
-    EXPECT_FALSE(a.Expanded());
-    EXPECT_EQ(tree.SelectedItem(), b1);
+    EXPECT_EQ(shape(tree), "ROOT*(A B*(B1*(B1x))) | B1");
     EXPECT_TRUE(events.isEmpty());
 
     // The tree's own Sorted orders the top level.
