@@ -2,7 +2,7 @@
 #include "ImageList.h"
 #include "ListBox.h"
 #include "ListView.h"
-#include "QsError.h"
+#include "Raised.h"
 #include "SSTab.h"
 #include "StatusBar.h"
 #include "Timer.h"
@@ -24,70 +24,52 @@
 
 using namespace qs;
 
-namespace {
+// Combo and list boxes share their list rules.
 
-template <class F> long raised(F&& call) {
-    try {
-        call();
-    } catch (const QsError& e) {
-        return e.number();
-    }
-    return 0;
-}
+template <class List> class ListControls : public ::testing::Test {};
+using ListTypes = ::testing::Types<ComboBox, ListBox>;
+TYPED_TEST_SUITE(ListControls, ListTypes);
 
-QStringList column(const ListView& list, int sub) {
-    QStringList out;
-    for (int i = 1; i <= list.ListItems.Count(); ++i)
-        out << (sub == 0 ? list.ListItems(i).Text() : list.ListItems(i).SubItems(sub));
-    return out;
-}
-
-} // namespace
-
-// Combo and list boxes.
-
-TEST(ComboBox, NewIndexAndItemDataFollowEachEntry) {
-    ComboBox combo("cboAuthors");
-    combo.AddItem("Ann Smith");
-    combo.setItemData(combo.NewIndex(), 2147483647);
-    combo.AddItem("Bob Jones");
-    combo.setItemData(combo.NewIndex(), -5);
-    combo.AddItem("Al First", 0);
-    EXPECT_EQ(combo.NewIndex(), 0);
-    combo.setItemData(combo.NewIndex(), 7);
-
-    EXPECT_EQ(combo.ListCount(), 3);
-    EXPECT_EQ(combo.List(0), "Al First");
-    EXPECT_EQ(combo.ItemData(0), 7);
-    EXPECT_EQ(combo.ItemData(1), 2147483647);
-    EXPECT_EQ(combo.ItemData(2), -5);
-    EXPECT_EQ(combo.ListIndex(), -1);
-    EXPECT_EQ(combo.Text(), "");
-    EXPECT_EQ(combo.List(3), "");
-    EXPECT_EQ(raised([&] { combo.ItemData(3); }), 381);
-
-    combo.RemoveItem(0);
-    EXPECT_EQ(combo.ItemData(0), 2147483647);
-    combo.Clear();
-    EXPECT_EQ(combo.ListCount(), 0);
-    EXPECT_EQ(combo.NewIndex(), -1);
-}
-
-TEST(ComboBox, SettingListIndexClicksEveryTime) {
-    ComboBox combo("cboCategory");
+TYPED_TEST(ListControls, EntriesCarryItemDataAndSettingListIndexClicksEveryTime) {
+    TypeParam list("cboAuthors");
     int clicks = 0;
-    combo.Click = [&] { ++clicks; };
-    combo.AddItem("a");
-    combo.AddItem("b");
+    list.Click = [&] { ++clicks; };
+    const std::pair<const char*, qint32> entries[] = {{"Ann Smith", 2147483647}, {"Bob Jones", -5}};
+    for (const auto& [text, data] : entries) {
+        list.AddItem(text);
+        list.setItemData(list.NewIndex(), data);
+    }
+    list.AddItem("Al First", 0);
+    EXPECT_EQ(list.NewIndex(), 0);
+    list.setItemData(list.NewIndex(), 7);
+
+    EXPECT_EQ(list.ListCount(), 3);
+    EXPECT_EQ(list.List(0), "Al First");
+    EXPECT_EQ(list.ItemData(0), 7);
+    EXPECT_EQ(list.ItemData(1), 2147483647);
+    EXPECT_EQ(list.ItemData(2), -5);
+    EXPECT_EQ(list.ListIndex(), -1);
+    EXPECT_EQ(list.Text(), "");
+    EXPECT_EQ(list.List(3), "");
+    EXPECT_EQ(raised([&] { list.ItemData(3); }), 381);
+    EXPECT_EQ(raised([&] { list.setItemData(5, 1); }), 381);
     EXPECT_EQ(clicks, 0);
-    combo.setListIndex(1);
-    combo.setListIndex(1);
+
+    list.setListIndex(2);
+    list.setListIndex(2);
     EXPECT_EQ(clicks, 2);
-    EXPECT_EQ(combo.Text(), "b");
-    combo.setListIndex(-1);
-    EXPECT_EQ(combo.Text(), "");
-    EXPECT_EQ(raised([&] { combo.setListIndex(2); }), 380);
+    EXPECT_EQ(list.Text(), "Bob Jones");
+    list.setListIndex(-1);
+    EXPECT_EQ(list.Text(), "");
+    EXPECT_EQ(raised([&] { list.setListIndex(3); }), 380);
     EXPECT_EQ(clicks, 3);
+
+    list.RemoveItem(0);
+    EXPECT_EQ(list.List(0), "Ann Smith");
+    EXPECT_EQ(list.ItemData(0), 2147483647);
+    list.Clear();
+    EXPECT_EQ(list.ListCount(), 0);
+    EXPECT_EQ(list.NewIndex(), -1);
 }
 
 TEST(ComboBox, DropDownListTakesOnlyItsOwnEntriesAsText) {
@@ -111,11 +93,9 @@ TEST(ComboBoxHelpers, GetIndexFindsTheFirstEntryBeginningWithTheTextIgnoringCase
     ComboBox combo("cboCategory");
     for (const char* s : {"Delphi", "Visual Basic", "Visual C++", "VB Script"})
         combo.AddItem(s);
-    EXPECT_EQ(cboGetIndex(combo, "visual"), 1);
-    EXPECT_EQ(cboGetIndex(combo, "VISUAL C"), 2);
-    EXPECT_EQ(cboGetIndex(combo, "v"), 1);
-    EXPECT_EQ(cboGetIndex(combo, "Basic"), -1);
-    EXPECT_EQ(cboGetIndex(combo, ""), 0);
+    for (const auto& [text, index] : {std::pair{"visual", 1}, std::pair{"VISUAL C", 2},
+                                      std::pair{"v", 1}, std::pair{"Basic", -1}, std::pair{"", 0}})
+        EXPECT_EQ(cboGetIndex(combo, text), index) << text;
 
     cboSearchWithString(combo, "vb");
     EXPECT_EQ(combo.Text(), "VB Script");
@@ -131,59 +111,38 @@ TEST(ComboBoxHelpers, SearchByItemDataSelectsTheEntryAndZeroDoesNothing) {
     }
     int clicks = 0;
     combo.Click = [&] { ++clicks; };
-    cboSearchByItemData(combo, 9);
-    EXPECT_EQ(combo.ListIndex(), 1);
-    EXPECT_EQ(clicks, 1);
-    cboSearchByItemData(combo, 0);
-    EXPECT_EQ(combo.ListIndex(), 1);
-    EXPECT_EQ(clicks, 1);
-    cboSearchByItemData(combo, 77);
-    EXPECT_EQ(combo.ListIndex(), 1);
-}
-
-TEST(ListBox, EntriesCarryItemDataAndListIndexClicks) {
-    ListBox list("lboxVerInfo");
-    int clicks = 0;
-    list.Click = [&] { ++clicks; };
-    list.AddItem("Company Name");
-    list.setItemData(list.NewIndex(), 0);
-    list.AddItem("Product Version");
-    list.setItemData(list.NewIndex(), 14);
-    list.AddItem("Description", 1);
-    EXPECT_EQ(list.NewIndex(), 1);
-    EXPECT_EQ(list.ItemData(2), 14);
-    EXPECT_EQ(list.ListIndex(), -1);
-    EXPECT_EQ(clicks, 0);
-    list.setListIndex(2);
-    EXPECT_EQ(clicks, 1);
-    EXPECT_EQ(list.Text(), "Product Version");
-    EXPECT_EQ(raised([&] { list.setListIndex(3); }), 380);
-    EXPECT_EQ(raised([&] { list.setItemData(5, 1); }), 381);
-    list.RemoveItem(0);
-    EXPECT_EQ(list.List(0), "Description");
-    list.Clear();
-    EXPECT_EQ(list.ListCount(), 0);
+    for (int id : {9, 0, 77}) {
+        cboSearchByItemData(combo, id);
+        EXPECT_EQ(combo.ListIndex(), 1) << id;
+    }
     EXPECT_EQ(clicks, 1);
 }
 
 // Report lists.
 
 namespace {
+
+QStringList column(const ListView& list, int sub) {
+    QStringList out;
+    for (int i = 1; i <= list.ListItems.Count(); ++i)
+        out << (sub == 0 ? list.ListItems(i).Text() : list.ListItems(i).SubItems(sub));
+    return out;
+}
+
 class ListViewTest : public ::testing::Test {
 protected:
     ListView list{"lvwRevisionHistory"};
     void SetUp() override {
         list.ColumnHeaders.Add("COLHEADER_REVISIONDATE", "Revision Date", 100);
         list.ColumnHeaders.Add("COLHEADER_REVISIONNUMBER", "Revision Number", 80);
-        const QList<QPair<QString, QString>> rows = {
-            {"03/01/2004", "1.0.10"}, {"01/15/2003", "1.0.2"}, {"02/01/2004", "1.0.9"}};
         int n = 0;
-        for (const auto& r : rows) {
-            ListItem item = list.ListItems.Add(QString("KEY%1").arg(++n), r.first);
-            item.setSubItems(1, r.second);
-        }
+        for (const auto& [date, number] :
+             {std::pair{"03/01/2004", "1.0.10"}, std::pair{"01/15/2003", "1.0.2"},
+              std::pair{"02/01/2004", "1.0.9"}})
+            list.ListItems.Add(QString("KEY%1").arg(++n), date).setSubItems(1, number);
     }
 };
+
 } // namespace
 
 TEST_F(ListViewTest, RowsHoldSubItemsTagsAndKeys) {
@@ -192,8 +151,6 @@ TEST_F(ListViewTest, RowsHoldSubItemsTagsAndKeys) {
     EXPECT_EQ(list.ColumnHeaders("COLHEADER_REVISIONDATE").Index(), 1);
     EXPECT_EQ(list.ListItems.Count(), 3);
     EXPECT_EQ(list.ListItems("KEY2").SubItems(1), "1.0.2");
-    list.ListItems(1).setTag("first");
-    EXPECT_EQ(list.ListItems("KEY1").Tag(), "first");
     EXPECT_EQ(raised([&] { list.ListItems.Add("KEY1", "again"); }), 35602);
     EXPECT_EQ(raised([&] { list.ListItems("KEY9"); }), 35601);
     EXPECT_EQ(raised([&] { list.ListItems(4); }), 35601);
@@ -218,31 +175,13 @@ TEST_F(ListViewTest, SortSetsKeyOrderAndSortedAndRenumbersTheRows) {
     // A sorted list keeps new rows in order.
     list.ListItems.Add("KEY4", "01/01/2001").setSubItems(1, "1.0.0");
     EXPECT_EQ(list.ListItems(1).Key(), "KEY4");
-}
 
-TEST_F(ListViewTest, SortWithoutAnOrderTogglesIt) {
-    EXPECT_EQ(list.SortOrder(), lvwAscending);
+    // Without an order the sort toggles it.
     lvwSort(list, 2);
     EXPECT_EQ(list.SortOrder(), lvwDescending);
     lvwSort(list, 2);
     EXPECT_EQ(list.SortOrder(), lvwAscending);
-    EXPECT_EQ(column(list, 1), QStringList({"1.0.10", "1.0.2", "1.0.9"}));
-}
-
-// The column click of the revision lists: descending when the order is ascending, else
-// ascending.
-TEST_F(ListViewTest, ColumnClickHandlerTogglesThroughTheHeader) {
-    QList<int> headers;
-    list.ColumnClick = [&](ColumnHeader& header) {
-        headers << header.Index();
-        lvwSort(list, header.Index(), list.SortOrder() == 0);
-    };
-    list.PerformColumnClick(2);
-    EXPECT_EQ(list.SortOrder(), lvwDescending);
-    list.PerformColumnClick(2);
-    EXPECT_EQ(list.SortOrder(), lvwAscending);
-    EXPECT_EQ(headers, QList<int>({2, 2}));
-    EXPECT_EQ(raised([&] { list.PerformColumnClick(3); }), 35601);
+    EXPECT_EQ(column(list, 1), QStringList({"1.0.0", "1.0.10", "1.0.2", "1.0.9"}));
 }
 
 TEST_F(ListViewTest, SelectionCanBeSetAndClearedForAllRows) {
@@ -283,19 +222,12 @@ TEST_F(ListViewTest, AutoSizeWidensTheLastColumnToTheClientWidth) {
 TEST(SSTab, TabChangesClickWithThePreviousTab) {
     SSTab tabs("SSTabNavigate");
     tabs.setTabs(3);
-    tabs.setTabCaption(0, "Main");
-    tabs.setTabCaption(1, "BookMarks");
-    tabs.setTabCaption(2, "Search/Results");
     QList<int> previous;
     tabs.Click = [&](int p) { previous << p; };
-    tabs.setTab(2);
-    tabs.setTab(2);
-    tabs.setTab(0);
+    for (int tab : {2, 2, 0})
+        tabs.setTab(tab);
     EXPECT_EQ(previous, QList<int>({0, 2}));
     EXPECT_EQ(tabs.Tab(), 0);
-    EXPECT_EQ(tabs.TabCaption(1), "BookMarks");
-    tabs.setTabEnabled(1, false);
-    EXPECT_FALSE(tabs.TabEnabled(1));
     EXPECT_EQ(raised([&] { tabs.setTab(3); }), 380);
     EXPECT_EQ(raised([&] { tabs.Page(-1); }), 380);
     tabs.setTabs(2);
@@ -321,35 +253,18 @@ TEST(SSTab, ClickOnACaptionRaisesGotFocusAndAControlOnAPageDoesNot) {
 }
 
 namespace {
-struct ButtonRow {
-    const char* key;
-    const char* tag;
-    const char* tip;
-    const char* image;
-};
-const ButtonRow kButtons[] = {
-    {"Open DataBase", "Open DataBase", "Open DataBase", "OpenDataBase"},
-    {"Add Category", "Add Category", "Add Category", "Category"},
-    {"Add Folder", "Add Folder", "Add Folder", "Folder"},
-    {"Add SourceCode", "Add SourceCode", "Add SourceCode", "SourceCode"},
-    {"Add SourceFile", "Add SourceFile", "Add SourceFile", "SourceFile"},
-    {"Seperator2", "Seperator2", "", ""},
-    {"DeleteNode", "DeleteNode", "Delete Selected Node", "Delete"},
-    {"BookMark", "BookMark", "BookMark Item", "BookMark"},
-    {"Edit", "Edit", "Edit Source", "Edit"},
-    {"ReName Item", "ReName", "Rename Node", "ReName2"},
-    {"Find", "Find", "Find Item", "Find"},
-    {"BookMarks", "BookMarks", "View BookMarks", "BookMarks"},
-    {"Back", "Back", "Next Item", "Back"},
-    {"Forward", "Forward", "Forward Item", "Forward"},
-    {"Copy", "Copy", "Copy", "Copy"},
-    {"AdvCopy", "AdvCopy", "Advanced Copy", "AdvCopy"},
-    {"Print", "Print", "Print", "Print"},
-};
 
+// A few buttons as the main tool bar has them: key, tag, tool tip and image differ.
 void fill(Toolbar& bar) {
     bar.setImageList(&ImageList::instance());
-    for (const ButtonRow& r : kButtons) {
+    const struct {
+        const char *key, *tag, *tip, *image;
+    } rows[] = {{"Add Folder", "Add Folder", "Add Folder", "Folder"},
+                {"Seperator2", "Seperator2", "", ""},
+                {"Edit", "Edit", "Edit Source", "Edit"},
+                {"ReName Item", "ReName", "Rename Node", "ReName2"},
+                {"Find", "Find", "Find Item", "Find"}};
+    for (const auto& r : rows) {
         const bool separator = QString(r.key) == "Seperator2";
         Button& b =
             bar.Buttons.Add(r.key, QString(), separator ? tbrSeparator : tbrDefault, r.image);
@@ -357,20 +272,23 @@ void fill(Toolbar& bar) {
         b.setToolTipText(r.tip);
     }
 }
+
 } // namespace
 
 TEST(Toolbar, ButtonsAreReachedByKeyAndClickWithTheirTag) {
     Toolbar bar("tbToolBar");
     fill(bar);
-    EXPECT_EQ(bar.Buttons.Count(), 17);
+    EXPECT_EQ(bar.Buttons.Count(), 5);
     EXPECT_EQ(bar.Buttons("ReName Item").Tag(), "ReName");
-    EXPECT_EQ(bar.Buttons("Back").ToolTipText(), "Next Item");
-    EXPECT_EQ(bar.Buttons(6).Style(), tbrSeparator);
-    EXPECT_EQ(bar.Buttons(17).Key(), "Print");
-    EXPECT_EQ(bar.Buttons("Edit").Image(), "Edit");
+    EXPECT_EQ(bar.Buttons("Find").ToolTipText(), "Find Item");
+    EXPECT_EQ(bar.Buttons(2).Style(), tbrSeparator);
+    EXPECT_EQ(bar.Buttons(5).Key(), "Find");
     EXPECT_FALSE(bar.Buttons("Edit").action()->icon().isNull());
     EXPECT_EQ(raised([&] { bar.Buttons("Rename"); }), 35601);
-    EXPECT_EQ(raised([&] { bar.Buttons.Add("Copy"); }), 35602);
+    EXPECT_EQ(raised([&] { bar.Buttons.Add("Edit"); }), 35602);
+    Button& plain = bar.Buttons.Add("X");
+    EXPECT_EQ(raised([&] { plain.setImage("NoSuchImage"); }), 35601);
+    EXPECT_EQ(plain.Image(), "");
 
     QStringList tags;
     bar.ButtonClick = [&](Button& b) { tags << b.Tag(); };
@@ -378,38 +296,25 @@ TEST(Toolbar, ButtonsAreReachedByKeyAndClickWithTheirTag) {
     bar.Buttons("Edit").setEnabled(false);
     EXPECT_FALSE(bar.PerformClick("Edit"));
     bar.Buttons("Find").setVisible(false);
-    EXPECT_FALSE(bar.Buttons("Find").Visible());
     EXPECT_FALSE(bar.PerformClick("Find"));
     EXPECT_FALSE(bar.PerformClick("Seperator2"));
     EXPECT_EQ(tags, QStringList({"ReName"}));
-}
-
-TEST(Toolbar, UnknownImageKeyRaises) {
-    Toolbar bar("tbToolBar");
-    bar.setImageList(&ImageList::instance());
-    Button& b = bar.Buttons.Add("X");
-    EXPECT_EQ(raised([&] { b.setImage("NoSuchImage"); }), 35601);
-    EXPECT_EQ(b.Image(), "");
 }
 
 TEST(Toolbar, MakeFlatTogglesTheLookOfEveryButton) {
     Toolbar bar("tbToolBar");
     fill(bar);
     EXPECT_FALSE(bar.Flat());
-    tbrMakeFlat(bar);
-    EXPECT_TRUE(bar.Flat());
-    for (QToolButton* b : bar.findChildren<QToolButton*>())
-        EXPECT_TRUE(b->autoRaise());
-    tbrMakeFlat(bar);
-    EXPECT_FALSE(bar.Flat());
-    for (QToolButton* b : bar.findChildren<QToolButton*>())
-        EXPECT_FALSE(b->autoRaise());
+    for (const bool flat : {true, false}) {
+        tbrMakeFlat(bar);
+        EXPECT_EQ(bar.Flat(), flat);
+        for (QToolButton* b : bar.findChildren<QToolButton*>())
+            EXPECT_EQ(b->autoRaise(), flat);
+    }
 }
 
 TEST(StatusBar, PanelsAreNumberedFromOne) {
     StatusBar bar("sbStatusBar", nullptr, 2);
-    bar.Panels(1).setText("Loading...");
-    EXPECT_EQ(bar.Panels(1).Text(), "Loading...");
     EXPECT_EQ(bar.Panels.Count(), 2);
     EXPECT_EQ(raised([&] { bar.Panels(0); }), 35601);
     EXPECT_EQ(raised([&] { bar.Panels(3); }), 35601);
@@ -436,31 +341,18 @@ TEST(Timer, RunsOnlyWhenEnabledWithAnInterval) {
     EXPECT_GT(ticks, 0);
 }
 
-// The image list.
-
-TEST(ImageList, HoldsEveryTreeAndToolBarKeyWithDistinctIcons) {
-    const QStringList keys = {
-        "Categories",   "MainIco",  "BookMarks", "Find",          "ClosedFolder",
-        "OpenFolder",   "Article",  "Component", "TestedSnippet", "UnTestedSnippet",
-        "Tip",          "Class3",   "Module",    "Constant",      "Type1",
-        "Enum",         "API",      "Property",  "Function",      "Sub",
-        "OpenDataBase", "Category", "Folder",    "SourceCode",    "SourceFile",
-        "Delete",       "BookMark", "Edit",      "ReName2",       "Back",
-        "Forward",      "Copy",     "AdvCopy",   "Print"};
+// The image list: the trees and the tool bar reach it by key, exactly as written.
+TEST(ImageList, EveryKeyHasItsOwnIconAndOtherKeysRaiseElementNotFound) {
     ImageList& list = ImageList::instance();
-    EXPECT_EQ(list.Count(), keys.size());
+    ASSERT_GT(list.Count(), 30);
     QList<QImage> images;
-    for (const QString& key : keys) {
-        ASSERT_TRUE(list.Exists(key)) << key.toStdString();
+    for (const QString& key : list.Keys()) {
         const QImage image = list.ListImages(key).pixmap(16, 16).toImage();
-        EXPECT_FALSE(image.isNull());
-        for (const QImage& other : images)
-            EXPECT_NE(image, other) << key.toStdString() << " looks like another icon";
+        EXPECT_FALSE(image.isNull()) << key.toStdString();
+        EXPECT_FALSE(images.contains(image)) << key.toStdString() << " looks like another icon";
         images << image;
     }
-}
-
-TEST(ImageList, UnknownOrDifferentlyCasedKeyRaisesElementNotFound) {
-    EXPECT_EQ(raised([] { ImageList::instance().ListImages("closedfolder"); }), 35601);
-    EXPECT_EQ(raised([] { ImageList::instance().ListImages(""); }), 35601);
+    ASSERT_TRUE(list.Exists("ClosedFolder"));
+    for (const char* key : {"closedfolder", ""})
+        EXPECT_EQ(raised([&] { list.ListImages(key); }), 35601) << key;
 }

@@ -17,8 +17,8 @@ class Boundary : public HostFixture {
 protected:
     void SetUp() override {
         HostFixture::SetUp();
-        owner.setObjectName(QStringLiteral("frmProbe"));
-        button = new QPushButton(QStringLiteral("Go"), &owner);
+        owner.setObjectName("frmProbe");
+        button = new QPushButton("Go", &owner);
         owner.show();
     }
     void wire(std::function<void()> body) {
@@ -34,12 +34,9 @@ TEST_F(Boundary, WhatEscapesAHandlerIsReportedUnderTheFormAndHandlerAndGoesNoFur
         QString text;
     };
     const Case cases[] = {
-        {[] {
-             throw QsError(3021, QStringLiteral("cLibraryService.Save;"), QStringLiteral("gone"));
-         },
-         QStringLiteral("Error Number: 3021")},
-        {[] { throw std::runtime_error("plain"); }, QStringLiteral("Error Description: plain")},
-        {[] { throw 7; }, QStringLiteral("Error Description: Internal error")},
+        {[] { throw QsError(3021, "cLibraryService.Save;", "gone"); }, "Error Number: 3021"},
+        {[] { throw std::runtime_error("plain"); }, "Error Description: plain"},
+        {[] { throw 7; }, "Error Description: Internal error"},
     };
     for (const Case& c : cases) {
         wire(c.body);
@@ -47,18 +44,17 @@ TEST_F(Boundary, WhatEscapesAHandlerIsReportedUnderTheFormAndHandlerAndGoesNoFur
         QTest::mouseClick(button, Qt::LeftButton);
         button->disconnect();
         ASSERT_FALSE(hostScript.msgBoxes().isEmpty());
-        EXPECT_TRUE(
-            hostScript.msgBoxes().last().title.endsWith(QStringLiteral("frmProbe:cmdGo_Click;")))
+        EXPECT_TRUE(hostScript.msgBoxes().last().title.endsWith("frmProbe:cmdGo_Click;"))
             << hostScript.msgBoxes().last().title.toStdString();
     }
-    EXPECT_EQ(WiredHandler(button), QStringLiteral("cmdGo_Click"));
+    EXPECT_EQ(WiredHandler(button), "cmdGo_Click");
 }
 
 TEST_F(Boundary, AFailingReportStopsAtTheBoundaryToo) {
     // A log path in a missing folder makes DisplayErrInfo raise again after its box.
-    gstrLogFile = home->file(QStringLiteral("no/such/folder/Quillstone.log"));
+    gstrLogFile = home->file("no/such/folder/Quillstone.log");
     glngLogMode = 1;
-    wire([] { throw QsError(5, QStringLiteral("x"), QStringLiteral("y")); });
+    wire([] { throw QsError(5, "x", "y"); });
     hostScript.answerMsgBox(vbOK);
     QTest::mouseClick(button, Qt::LeftButton);
     EXPECT_EQ(hostScript.msgBoxes().size(), 1);

@@ -14,7 +14,7 @@ namespace {
 
 class frmOne : public FormBase {
 public:
-    frmOne() : FormBase(QStringLiteral("frmOne")) {}
+    frmOne() : FormBase("frmOne") {}
     int loads = 0;
     int cancelUnload = 0;
 
@@ -25,13 +25,13 @@ protected:
 
 class frmTwo : public FormBase {
 public:
-    frmTwo() : FormBase(QStringLiteral("frmTwo")) {}
+    frmTwo() : FormBase("frmTwo") {}
 };
 
 // A form whose exit command asks first, and unloads only when the answer is yes.
 class frmAsk : public FormBase {
 public:
-    frmAsk() : FormBase(QStringLiteral("frmAsk")) { box = new QLineEdit(this); }
+    frmAsk() : FormBase("frmAsk") { box = new QLineEdit(this); }
     QLineEdit* box;
     int asked = 0;
     bool agree = false;
@@ -70,39 +70,33 @@ protected:
 
 } // namespace
 
-TEST_F(FormsCollection, FirstUseLoadsOnceAndKeepsLoadOrder) {
+TEST_F(FormsCollection, FirstUseLoadsOnceKeepsLoadOrderAndACancelledUnloadKeepsTheForm) {
     frmOne& one = Forms::get<frmOne>();
     Forms::get<frmTwo>();
     EXPECT_EQ(&Forms::get<frmOne>(), &one);
     EXPECT_EQ(one.loads, 1);
     ASSERT_EQ(Forms::count(), 2);
-    EXPECT_EQ(Forms::all().at(0)->Name(), QStringLiteral("frmOne"));
-    EXPECT_EQ(Forms::findByName(QStringLiteral("frmTwo")), Forms::find<frmTwo>());
-}
+    EXPECT_EQ(Forms::all().at(0)->Name(), "frmOne");
+    EXPECT_EQ(Forms::findByName("frmTwo"), Forms::find<frmTwo>());
 
-TEST_F(FormsCollection, CancelledUnloadKeepsTheForm) {
-    frmOne& one = Forms::get<frmOne>();
     one.cancelUnload = 1;
     EXPECT_FALSE(one.Unload());
-    EXPECT_EQ(Forms::count(), 1);
+    EXPECT_EQ(Forms::count(), 2);
     one.cancelUnload = 0;
     EXPECT_TRUE(one.Unload());
     EXPECT_EQ(Forms::find<frmOne>(), nullptr);
 }
 
-TEST_F(FormsCollection, ProgramEndsOnlyOnceTheLastUnloadIsBackInTheEventLoop) {
-    Forms::get<frmOne>().Unload();
-    EXPECT_EQ(ends, 0) << "ended inside the handler that unloaded the form";
-    spin(50);
-    EXPECT_EQ(ends, 1);
-}
-
-TEST_F(FormsCollection, AFormShownAgainInTheSameHandlerKeepsTheProgramAlive) {
+TEST_F(FormsCollection, ProgramEndsOnceTheLastUnloadIsBackInTheEventLoopUnlessAFormIsShownAgain) {
     // Back to the login: every form is unloaded and the login form loaded again.
     Forms::get<frmOne>().Unload();
     Forms::get<frmTwo>();
     spin(50);
     EXPECT_EQ(ends, 0);
+    Forms::get<frmTwo>().Unload();
+    EXPECT_EQ(ends, 0) << "ended inside the handler that unloaded the form";
+    spin(50);
+    EXPECT_EQ(ends, 1);
 }
 
 TEST_F(FormsCollection, NoEndWhileAHandlerYieldsToTheEventLoop) {

@@ -15,12 +15,11 @@ using namespace qs::test;
 // filled, the others are kept, and every caret of the template or the value comes out as "?"
 // (skipped markers other than "?" too); an occurrence beyond the markers changes nothing.
 TEST(ValidateSSN, FillsTheFirstOrTheNthMarker) {
-    struct Row {
+    const struct {
         const char *text, *value, *marker;
         int occurrence;
         const char* expected;
-    };
-    const Row rows[] = {
+    } rows[] = {
         {"The AuthorId: ? is not not in the database.", "17", "?", 0,
          "The AuthorId: 17 is not not in the database."},
         {"? and ?", "A", "?", 0, "A and ?"},
@@ -34,76 +33,71 @@ TEST(ValidateSSN, FillsTheFirstOrTheNthMarker) {
         {"# and #", "Z", "#", 2, "? and Z"},
         {"only ?", "A", "?", 2, "only ?"},
     };
-    for (const Row& r : rows) {
-        SCOPED_TRACE(std::string(r.text) + " / " + r.value + " / " + std::to_string(r.occurrence));
-        EXPECT_EQ(ValidateSSN(QString::fromUtf8(r.text), QString::fromUtf8(r.value),
-                              QString::fromUtf8(r.marker), r.occurrence),
-                  QString::fromUtf8(r.expected));
-    }
+    for (const auto& r : rows)
+        EXPECT_EQ(ValidateSSN(r.text, r.value, r.marker, r.occurrence), r.expected)
+            << r.text << " / " << r.value << " / " << r.occurrence;
     // The marker and the occurrence may be left out.
-    EXPECT_EQ(ValidateSSN(QStringLiteral("? and ?"), QStringLiteral("A")),
-              QStringLiteral("A and ?"));
+    EXPECT_EQ(ValidateSSN("? and ?", "A"), "A and ?");
 }
 
-TEST(Strings, FirstAlphaCharacterCountsInTheTrimmedText) {
-    EXPECT_EQ(FirstAlphaCharacter(QStringLiteral("123SC")), 4);
-    EXPECT_EQ(FirstAlphaCharacter(QStringLiteral("  12a")), 3);
-    EXPECT_EQ(FirstAlphaCharacter(QStringLiteral("4711")), 0);
-    EXPECT_EQ(FirstAlphaCharacter(QString()), 0);
-    EXPECT_EQ(FirstAlphaCharacter(QStringLiteral("12\u00e9z")), 4);
-}
+// Each row is one call and the text it must give.
+TEST(Strings, TextAndPathHelpersKeepTheirRules) {
+    const QString nul(QChar(0));
+    const struct {
+        const char* call;
+        QString got, expected;
+    } rows[] = {
+        // Letters counted in the trimmed text, from 1; 0 for none.
+        {"FirstAlpha 123SC", QString::number(FirstAlphaCharacter("123SC")), "4"},
+        {"FirstAlpha blanks", QString::number(FirstAlphaCharacter("  12a")), "3"},
+        {"FirstAlpha digits", QString::number(FirstAlphaCharacter("4711")), "0"},
+        {"FirstAlpha empty", QString::number(FirstAlphaCharacter(QString())), "0"},
+        {"FirstAlpha accent", QString::number(FirstAlphaCharacter("12\u00e9z")), "4"},
+        // One separator appended, whatever the other separators.
+        {"FormatPath", FormatPath("/home/a"), "/home/a/"},
+        {"FormatPath ending", FormatPath("/home/a/"), "/home/a/"},
+        {"FormatPath empty", FormatPath(QString()), "/"},
+        {"FormatPath backslash", FormatPath("C:\\x"), "C:\\x/"},
+        {"ExtractFilePath keep", ExtractFilePath("/data/lib/a.mdb", true), "/data/lib/"},
+        {"ExtractFilePath drop", ExtractFilePath("/data/lib/a.mdb", false), "/data/lib"},
+        {"ExtractFilePath bare", ExtractFilePath("a.mdb", true), ""},
+        {"ExtractFilePath top", ExtractFilePath("/a.mdb", false), ""},
+        {"ExtractFilePath folder", ExtractFilePath("/data/", true), "/data/"},
+        // Split at the last separator; only blanks are trimmed, a tab in front stays.
+        {"FilePath", Get_FilePath_FromFilePathFileNameFileType("  /d/e/f.txt  "), "/d/e/"},
+        {"FilePath empty", Get_FilePath_FromFilePathFileNameFileType(QString()), ""},
+        {"FilePath bare", Get_FilePath_FromFilePathFileNameFileType("f.txt"), ""},
+        {"FilePath tab", Get_FilePath_FromFilePathFileNameFileType("\t/d/f.txt "), "\t/d/"},
+        {"StripFileName", StripFileName("/d/e/f.txt"), "f.txt"},
+        {"StripFileName bare", StripFileName("f.txt"), "f.txt"},
+        {"StripFileName folder", StripFileName("/d/e/"), ""},
+        // Cut at the first NUL, or else trimmed (TrimNull) or kept (StrZToStr).
+        {"TrimNull", TrimNull("abc" + nul + "junk "), "abc"},
+        {"TrimNull blanks", TrimNull("  abc  "), "abc"},
+        {"TrimNull both", TrimNull(" a" + nul), " a"},
+        {"StrZToStr", StrZToStr("x" + nul + "y"), "x"},
+        {"StrZToStr blanks", StrZToStr(" x "), " x "},
+        // The pattern of the n-th description and pattern pair.
+        {"FilterLookup 1", FilterLookup("All Files (*.*)|*.*|VB Mod Files (*.bas)|*.bas", 1),
+         "*.*"},
+        {"FilterLookup 2", FilterLookup("All Files (*.*)|*.*|VB Mod Files (*.bas)|*.bas", 2),
+         "*.bas"},
+        {"FilterLookup 3", FilterLookup("All Files (*.*)|*.*|VB Mod Files (*.bas)|*.bas", 3), ""},
+        {"FilterLookup 0", FilterLookup("All Files (*.*)|*.*", 0), ""},
+        {"FilterLookup all", FilterLookup(kFilterAll, 1), " *.*"},
+    };
+    for (const auto& r : rows)
+        EXPECT_EQ(r.got, r.expected) << r.call;
 
-TEST(Strings, IsAlphaAcceptsOnlyAsciiLetters) {
-    EXPECT_TRUE(IsAlpha(QStringLiteral("AbcZz")));
-    EXPECT_FALSE(IsAlpha(QStringLiteral("Ab c")));
-    EXPECT_FALSE(IsAlpha(QStringLiteral("A1")));
-    EXPECT_FALSE(IsAlpha(QStringLiteral("\u00c4")));
-    EXPECT_FALSE(IsAlpha(QStringLiteral("[")));
-    EXPECT_TRUE(IsAlpha(QString()));
-}
-
-TEST(Paths, FormatPathAppendsOneSeparator) {
-    EXPECT_EQ(FormatPath(QStringLiteral("/home/a")), QStringLiteral("/home/a/"));
-    EXPECT_EQ(FormatPath(QStringLiteral("/home/a/")), QStringLiteral("/home/a/"));
-    EXPECT_EQ(FormatPath(QString()), QStringLiteral("/"));
-    EXPECT_EQ(FormatPath(QStringLiteral("C:\\x")), QStringLiteral("C:\\x/"));
-}
-
-TEST(Paths, ExtractFilePathWithAndWithoutTheSeparator) {
-    EXPECT_EQ(ExtractFilePath(QStringLiteral("/data/lib/a.mdb"), true),
-              QStringLiteral("/data/lib/"));
-    EXPECT_EQ(ExtractFilePath(QStringLiteral("/data/lib/a.mdb"), false),
-              QStringLiteral("/data/lib"));
-    EXPECT_EQ(ExtractFilePath(QStringLiteral("a.mdb"), true), QString());
-    EXPECT_EQ(ExtractFilePath(QStringLiteral("/a.mdb"), false), QString());
-    EXPECT_EQ(ExtractFilePath(QStringLiteral("/data/"), true), QStringLiteral("/data/"));
-}
-
-TEST(Paths, FilePathAndFileNameSplitAtTheLastSeparator) {
-    EXPECT_EQ(Get_FilePath_FromFilePathFileNameFileType(QStringLiteral("  /d/e/f.txt  ")),
-              QStringLiteral("/d/e/"));
-    EXPECT_EQ(Get_FilePath_FromFilePathFileNameFileType(QString()), QString());
-    EXPECT_EQ(Get_FilePath_FromFilePathFileNameFileType(QStringLiteral("f.txt")), QString());
-    // Only blanks are trimmed: a tab in front stays part of the path.
-    EXPECT_EQ(Get_FilePath_FromFilePathFileNameFileType(QStringLiteral("\t/d/f.txt ")),
-              QStringLiteral("\t/d/"));
-    EXPECT_EQ(StripFileName(QStringLiteral("/d/e/f.txt")), QStringLiteral("f.txt"));
-    EXPECT_EQ(StripFileName(QStringLiteral("f.txt")), QStringLiteral("f.txt"));
-    EXPECT_EQ(StripFileName(QStringLiteral("/d/e/")), QString());
-}
-
-TEST(Paths, TrimNullCutsAtTheNullOrTrims) {
-    EXPECT_EQ(TrimNull(QStringLiteral("abc") + QChar(0) + QStringLiteral("junk ")),
-              QStringLiteral("abc"));
-    EXPECT_EQ(TrimNull(QStringLiteral("  abc  ")), QStringLiteral("abc"));
-    EXPECT_EQ(TrimNull(QStringLiteral(" a") + QChar(0)), QStringLiteral(" a"));
-    EXPECT_EQ(StrZToStr(QStringLiteral("x") + QChar(0) + QStringLiteral("y")), QStringLiteral("x"));
-    EXPECT_EQ(StrZToStr(QStringLiteral(" x ")), QStringLiteral(" x "));
+    for (const auto& [text, alpha] :
+         {std::pair{"AbcZz", true}, std::pair{"Ab c", false}, std::pair{"A1", false},
+          std::pair{"\u00c4", false}, std::pair{"[", false}, std::pair{"", true}})
+        EXPECT_EQ(IsAlpha(text), alpha) << text;
 }
 
 TEST(Paths, FileExistsForFilesFoldersAndPatterns) {
     TestHome home;
-    const QString file = home.file(QStringLiteral("a.bas"));
+    const QString file = home.file("a.bas");
     QFile f(file);
     ASSERT_TRUE(f.open(QIODevice::WriteOnly));
     f.close();
@@ -111,19 +105,10 @@ TEST(Paths, FileExistsForFilesFoldersAndPatterns) {
     EXPECT_TRUE(FileExists(home.path()));
     // A path that ends in the separator names no entry, not even the folder itself.
     EXPECT_FALSE(FileExists(FormatPath(home.path())));
-    EXPECT_TRUE(FileExists(home.file(QStringLiteral("*.bas"))));
-    EXPECT_FALSE(FileExists(home.file(QStringLiteral("*.cls"))));
-    EXPECT_FALSE(FileExists(home.file(QStringLiteral("b.bas"))));
+    EXPECT_TRUE(FileExists(home.file("*.bas")));
+    EXPECT_FALSE(FileExists(home.file("*.cls")));
+    EXPECT_FALSE(FileExists(home.file("b.bas")));
     EXPECT_FALSE(FileExists(QString()));
-}
-
-TEST(Filters, FilterLookupGivesThePatternOfTheNthPair) {
-    const QString filter = QStringLiteral("All Files (*.*)|*.*|VB Mod Files (*.bas)|*.bas");
-    EXPECT_EQ(FilterLookup(filter, 1), QStringLiteral("*.*"));
-    EXPECT_EQ(FilterLookup(filter, 2), QStringLiteral("*.bas"));
-    EXPECT_EQ(FilterLookup(filter, 3), QString());
-    EXPECT_EQ(FilterLookup(filter, 0), QString());
-    EXPECT_EQ(FilterLookup(QString::fromLatin1(kFilterAll), 1), QStringLiteral(" *.*"));
 }
 
 namespace {
@@ -131,52 +116,51 @@ using FileDialogs = HostFixture;
 }
 
 TEST_F(FileDialogs, OpenDialogPassesItsRequestAndReturnsNameTitleAndFlags) {
-    hostScript.answerFileDialog(QStringLiteral("/src/Module1.bas"));
+    hostScript.answerFileDialog("/src/Module1.bas");
     FileNameDialog d;
-    d.filter = QStringLiteral("All Files (*.*)|*.*:VB Mod Files (*.bas)|*.bas");
-    d.dlgTitle = QStringLiteral("Open Module");
-    d.initDir = QStringLiteral("/src");
-    d.defaultExt = QStringLiteral("bas");
+    d.filter = "All Files (*.*)|*.*:VB Mod Files (*.bas)|*.bas";
+    d.dlgTitle = "Open Module";
+    d.initDir = "/src";
+    d.defaultExt = "bas";
     ASSERT_TRUE(VBGetOpenFileName(d));
-    EXPECT_EQ(d.fileName, QStringLiteral("/src/Module1.bas"));
-    EXPECT_EQ(d.fileTitle, QStringLiteral("Module1.bas"));
+    EXPECT_EQ(d.fileName, "/src/Module1.bas");
+    EXPECT_EQ(d.fileTitle, "Module1.bas");
     EXPECT_EQ(d.flags & cdlOFNFileMustExist, cdlOFNFileMustExist);
     EXPECT_EQ(d.flags & cdlOFNExtensionDifferent, 0);
     const FileDialogRequest& r = hostScript.lastFileDialog();
     EXPECT_FALSE(r.forSave);
     EXPECT_TRUE(r.mustExist);
-    EXPECT_EQ(r.title, QStringLiteral("Open Module"));
+    EXPECT_EQ(r.title, "Open Module");
     EXPECT_EQ(r.filter, d.filter);
-    EXPECT_EQ(r.initDir, QStringLiteral("/src"));
+    EXPECT_EQ(r.initDir, "/src");
 }
 
 TEST_F(FileDialogs, SaveDialogAsksForOverwriteAndCancelGivesFalse) {
     hostScript.answerFileDialog(QString());
     FileNameDialog d;
-    d.fileName = QStringLiteral("Proposal.txt");
+    d.fileName = "Proposal.txt";
     EXPECT_FALSE(VBGetSaveFileName(d));
-    EXPECT_EQ(d.fileName, QStringLiteral("Proposal.txt"));
+    EXPECT_EQ(d.fileName, "Proposal.txt");
     EXPECT_TRUE(hostScript.lastFileDialog().forSave);
     EXPECT_TRUE(hostScript.lastFileDialog().overwritePrompt);
-    EXPECT_EQ(hostScript.lastFileDialog().fileName, QStringLiteral("Proposal.txt"));
+    EXPECT_EQ(hostScript.lastFileDialog().fileName, "Proposal.txt");
 }
 
 TEST_F(FileDialogs, GetFileNameDefaultsToTheHomeFolderAndCancelGivesEmpty) {
     CommonDialog dialog;
     hostScript.answerFileDialog(QString());
-    EXPECT_EQ(GetFileName(dialog, QString::fromLatin1(kFilterHtml)), QString());
+    EXPECT_EQ(GetFileName(dialog, kFilterHtml), QString());
     EXPECT_EQ(hostScript.lastFileDialog().initDir, QDir::homePath());
     EXPECT_TRUE(hostScript.lastFileDialog().title.isEmpty());
     EXPECT_TRUE(hostScript.lastFileDialog().mustExist);
     EXPECT_TRUE(hostScript.msgBoxes().isEmpty());
 
-    hostScript.answerFileDialog(QStringLiteral("/out/page.html"));
-    EXPECT_EQ(GetFileName(dialog, QString::fromLatin1(kFilterHtml), QStringLiteral("Save"),
-                          QStringLiteral("page.html"), QStringLiteral("/out"), true),
-              QStringLiteral("/out/page.html"));
+    hostScript.answerFileDialog("/out/page.html");
+    EXPECT_EQ(GetFileName(dialog, kFilterHtml, "Save", "page.html", "/out", true),
+              "/out/page.html");
     EXPECT_TRUE(hostScript.lastFileDialog().overwritePrompt);
-    EXPECT_EQ(hostScript.lastFileDialog().fileName, QStringLiteral("page.html"));
-    EXPECT_EQ(dialog.FileTitle, QStringLiteral("page.html"));
+    EXPECT_EQ(hostScript.lastFileDialog().fileName, "page.html");
+    EXPECT_EQ(dialog.FileTitle, "page.html");
 }
 
 TEST_F(FileDialogs, CancelErrorRaisesCancelWasSelected) {
@@ -188,15 +172,15 @@ TEST_F(FileDialogs, CancelErrorRaisesCancelWasSelected) {
         ADD_FAILURE() << "no error on Cancel";
     } catch (const QsError& e) {
         EXPECT_EQ(e.number(), cdlCancel);
-        EXPECT_EQ(e.description(), QStringLiteral("Cancel was selected."));
+        EXPECT_EQ(e.description(), "Cancel was selected.");
     }
     dialog.CancelError = false;
-    dialog.FileName = QStringLiteral("kept");
+    dialog.FileName = "kept";
     hostScript.answerFileDialog(QString());
     dialog.ShowOpen();
-    EXPECT_EQ(dialog.FileName, QStringLiteral("kept"));
-    hostScript.answerPrinter(true, QStringLiteral("Office"), 3);
+    EXPECT_EQ(dialog.FileName, "kept");
+    hostScript.answerPrinter(true, "Office", 3);
     dialog.ShowPrinter();
     EXPECT_EQ(dialog.Copies, 3);
-    EXPECT_EQ(dialog.PrinterName, QStringLiteral("Office"));
+    EXPECT_EQ(dialog.PrinterName, "Office");
 }

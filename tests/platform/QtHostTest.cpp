@@ -50,34 +50,32 @@ void writeFile(const QString& path, const QByteArray& bytes) {
 } // namespace
 
 TEST(QtHostFilters, DescriptionPatternPairsBecomeNameFilters) {
-    EXPECT_EQ(QtHost::nameFilters(QStringLiteral("All Files (*.*)|*.*|Text Files (*.txt)|*.txt")),
-              (QStringList{QStringLiteral("All Files (*.*) (*.*)"),
-                           QStringLiteral("Text Files (*.txt) (*.txt)")}));
-    EXPECT_EQ(
-        QtHost::nameFilters(QStringLiteral("Pictures|*.bmp;*.jpg:All (*.*)| *.*")),
-        (QStringList{QStringLiteral("Pictures (*.bmp *.jpg)"), QStringLiteral("All (*.*) (*.*)")}));
+    EXPECT_EQ(QtHost::nameFilters("All Files (*.*)|*.*|Text Files (*.txt)|*.txt"),
+              (QStringList{"All Files (*.*) (*.*)", "Text Files (*.txt) (*.txt)"}));
+    EXPECT_EQ(QtHost::nameFilters("Pictures|*.bmp;*.jpg:All (*.*)| *.*"),
+              (QStringList{"Pictures (*.bmp *.jpg)", "All (*.*) (*.*)"}));
     EXPECT_TRUE(QtHost::nameFilters(QString()).isEmpty());
 }
 
 TEST(QtHostHelp, ContextPagesContentsAndSearchComeFromTheHelpFolder) {
     qs::test::TestHome home;
-    const QString hlp = home.file(QStringLiteral("Quillstone.hlp"));
-    writeFile(home.file(QStringLiteral("1550.html")), "<p>Database</p>");
-    writeFile(home.file(QStringLiteral("index.html")), "<p>Contents</p>");
-    EXPECT_EQ(QtHost::helpPage(hlp, 1, 1550), home.file(QStringLiteral("1550.html")));
-    EXPECT_EQ(QtHost::helpPage(hlp, 8, 1550), home.file(QStringLiteral("1550.html")));
+    const QString hlp = home.file("Quillstone.hlp");
+    writeFile(home.file("1550.html"), "<p>Database</p>");
+    writeFile(home.file("index.html"), "<p>Contents</p>");
+    EXPECT_EQ(QtHost::helpPage(hlp, 1, 1550), home.file("1550.html"));
+    EXPECT_EQ(QtHost::helpPage(hlp, 8, 1550), home.file("1550.html"));
     EXPECT_EQ(QtHost::helpPage(hlp, 1, 1370), QString());
-    EXPECT_EQ(QtHost::helpPage(hlp, 15, 0), home.file(QStringLiteral("index.html")));
-    EXPECT_EQ(QtHost::helpPage(hlp, 261, 0), home.file(QStringLiteral("index.html")));
+    EXPECT_EQ(QtHost::helpPage(hlp, 15, 0), home.file("index.html"));
+    EXPECT_EQ(QtHost::helpPage(hlp, 261, 0), home.file("index.html"));
 
     QtHost host;
     EXPECT_TRUE(host.showHelp(hlp, 1, 1550));
     QTextBrowser* window = nullptr;
     for (QWidget* w : QApplication::topLevelWidgets())
-        if (w->objectName() == QStringLiteral("HelpWindow") && w->isVisible())
+        if (w->objectName() == "HelpWindow" && w->isVisible())
             window = qobject_cast<QTextBrowser*>(w);
     ASSERT_NE(window, nullptr);
-    EXPECT_TRUE(window->toPlainText().contains(QStringLiteral("Database")));
+    EXPECT_TRUE(window->toPlainText().contains("Database"));
     EXPECT_FALSE(host.showHelp(hlp, 1, 1370));
     EXPECT_TRUE(host.showHelp(hlp, 4, 0));
     EXPECT_FALSE(window->isVisible());
@@ -88,20 +86,18 @@ TEST(QtHostDialogs, MessageBoxReturnsTheClickedButtonAndHonoursTheDefault) {
     int defaultIsNo = 0;
     whenModalShows([&defaultIsNo](QWidget* box) {
         for (QAbstractButton* b : box->findChildren<QAbstractButton*>())
-            if (b->text() == QStringLiteral("&No"))
+            if (b->text() == "&No")
                 defaultIsNo = b->property("default").toBool() ? 1 : -1;
-        clickButton(box, QStringLiteral("&No"));
+        clickButton(box, "&No");
     });
-    EXPECT_EQ(host.msgBox(QStringLiteral("Delete?"), vbYesNo | vbQuestion | vbDefaultButton2,
-                          QStringLiteral("Delete")),
-              vbNo);
+    EXPECT_EQ(host.msgBox("Delete?", vbYesNo | vbQuestion | vbDefaultButton2, "Delete"), vbNo);
     EXPECT_EQ(defaultIsNo, 1);
 
-    whenModalShows([](QWidget* box) { clickButton(box, QStringLiteral("Cancel")); });
-    EXPECT_EQ(host.msgBox(QStringLiteral("Save?"), vbYesNoCancel, QString()), vbCancel);
+    whenModalShows([](QWidget* box) { clickButton(box, "Cancel"); });
+    EXPECT_EQ(host.msgBox("Save?", vbYesNoCancel, QString()), vbCancel);
 
-    whenModalShows([](QWidget* box) { clickButton(box, QStringLiteral("&Retry")); });
-    EXPECT_EQ(host.msgBox(QStringLiteral("Again?"), vbAbortRetryIgnore, QString()), vbRetry);
+    whenModalShows([](QWidget* box) { clickButton(box, "&Retry"); });
+    EXPECT_EQ(host.msgBox("Again?", vbAbortRetryIgnore, QString()), vbRetry);
 }
 
 TEST(QtHostDialogs, InputBoxGivesTheTextAndEmptyOnCancel) {
@@ -109,17 +105,17 @@ TEST(QtHostDialogs, InputBoxGivesTheTextAndEmptyOnCancel) {
     whenModalShows([](QWidget* w) {
         auto* dialog = qobject_cast<QInputDialog*>(w);
         ASSERT_NE(dialog, nullptr);
-        dialog->setTextValue(QStringLiteral("Tips"));
+        dialog->setTextValue("Tips");
         dialog->accept();
     });
-    EXPECT_EQ(host.inputBox(QStringLiteral("Name"), QString(), QString()), QStringLiteral("Tips"));
+    EXPECT_EQ(host.inputBox("Name", QString(), QString()), "Tips");
     whenModalShows([](QWidget* w) { qobject_cast<QDialog*>(w)->reject(); });
-    EXPECT_EQ(host.inputBox(QStringLiteral("Name"), QString(), QStringLiteral("x")), QString());
+    EXPECT_EQ(host.inputBox("Name", QString(), "x"), QString());
 }
 
 TEST(QtHostForms, ModalShowReturnsWhenTheFormIsHidden) {
     QtHost host;
-    FormBase form(QStringLiteral("frmProbe"));
+    FormBase form("frmProbe");
     bool visibleInLoop = false;
     QTimer::singleShot(20, &form, [&] {
         visibleInLoop = form.isVisible();
@@ -143,21 +139,15 @@ TEST(QtHostDesktop, PointerClipboardAndShellCodes) {
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
     EXPECT_EQ(host.mousePointer(), vbDefault);
 
-    host.clipboardSetText(QStringLiteral("Sub Main()\r\nEnd Sub"));
-    EXPECT_EQ(host.clipboardGetText(), QStringLiteral("Sub Main()\r\nEnd Sub"));
+    host.clipboardSetText("Sub Main()\r\nEnd Sub");
+    EXPECT_EQ(host.clipboardGetText(), "Sub Main()\r\nEnd Sub");
 
-    EXPECT_EQ(host.shellExecute(QStringLiteral("open"), home.file(QStringLiteral("none.txt")),
-                                QString(), QString(), 1),
-              2);
-    EXPECT_EQ(host.shellExecute(QStringLiteral("open"),
-                                home.file(QStringLiteral("no/folder/none.txt")), QString(),
-                                QString(), 1),
+    EXPECT_EQ(host.shellExecute("open", home.file("none.txt"), QString(), QString(), 1), 2);
+    EXPECT_EQ(host.shellExecute("open", home.file("no/folder/none.txt"), QString(), QString(), 1),
               3);
-    EXPECT_EQ(host.shellExecute(QStringLiteral("open"), QString(), QString(), QString(), 1), 2);
-    writeFile(home.file(QStringLiteral("a.txt")), "x");
-    EXPECT_EQ(host.shellExecute(QStringLiteral("open"), QStringLiteral("a.txt"), QString(),
-                                home.file(QStringLiteral("missing")), 1),
-              3);
+    EXPECT_EQ(host.shellExecute("open", QString(), QString(), QString(), 1), 2);
+    writeFile(home.file("a.txt"), "x");
+    EXPECT_EQ(host.shellExecute("open", "a.txt", QString(), home.file("missing"), 1), 3);
 }
 
 TEST(QtHostEnd, EndLeavesTheProcessAtOnceWithCodeZero) {
@@ -181,8 +171,7 @@ TEST(QtHostInstance, SecondHostSeesThePreviousInstanceAndAStaleLockIsTakenOver) 
         EXPECT_TRUE(second.previousInstance());
     }
     // A lock whose process is gone does not count.
-    const QString lockPath =
-        QDir(runtime).filePath(QCoreApplication::applicationName() + QStringLiteral(".lock"));
+    const QString lockPath = QDir(runtime).filePath(QCoreApplication::applicationName() + ".lock");
     QFile::remove(lockPath);
     writeFile(lockPath, "999999999\nQuillstone\n" + QSysInfo::machineHostName().toUtf8() + "\n");
     QtHost third;

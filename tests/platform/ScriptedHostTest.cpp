@@ -15,11 +15,9 @@ namespace {
 // A small window with a text field and an OK button that stores the text and unloads.
 class frmProbe : public FormBase {
 public:
-    frmProbe() : FormBase(QStringLiteral("frmProbe")) {
+    frmProbe() : FormBase("frmProbe") {
         txtName = new QLineEdit(this);
-        txtName->setObjectName(QStringLiteral("txtName"));
-        cmdOk = new QPushButton(QStringLiteral("OK"), this);
-        cmdOk->setObjectName(QStringLiteral("cmdOk"));
+        cmdOk = new QPushButton("OK", this);
         connect(cmdOk, &QPushButton::clicked, this, [this] {
             accepted = txtName->text();
             Unload();
@@ -35,51 +33,40 @@ using ScriptedHostTest = HostFixture;
 } // namespace
 
 TEST_F(ScriptedHostTest, AnswersMessageBoxesInOrderAndLogsThem) {
-    hostScript.expectMsgBox(QStringLiteral("Delete it?"), vbYes);
+    hostScript.expectMsgBox("Delete it?", vbYes);
     hostScript.answerMsgBox(vbNo);
-    EXPECT_EQ(host().msgBox(QStringLiteral("Delete it?"), vbYesNo | vbQuestion,
-                            QStringLiteral("Delete?")),
-              vbYes);
-    EXPECT_EQ(host().msgBox(QStringLiteral("Really?\r\nSure?"), vbYesNo, QString()), vbNo);
+    EXPECT_EQ(host().msgBox("Delete it?", vbYesNo | vbQuestion, "Delete?"), vbYes);
+    EXPECT_EQ(host().msgBox("Really?\r\nSure?", vbYesNo, QString()), vbNo);
     ASSERT_EQ(hostScript.msgBoxes().size(), 2);
     EXPECT_EQ(hostScript.msgBoxes()[0].icon(), vbQuestion);
     EXPECT_EQ(hostScript.msgBoxes()[0].buttons(), vbYesNo);
-    EXPECT_EQ(hostScript.log(), QStringLiteral("MsgBox[36] \"Delete?\": Delete it? -> 6\n"
-                                               "MsgBox[4]: Really?\\nSure? -> 7"));
+    EXPECT_EQ(hostScript.log(), "MsgBox[36] \"Delete?\": Delete it? -> 6\n"
+                                "MsgBox[4]: Really?\\nSure? -> 7");
 }
 
-TEST_F(ScriptedHostTest, UnscriptedMessageBoxFailsWithItsTextAndAnswersCancel) {
+// A box nobody scripted, one with other text than expected, and an answer the box has no
+// button for each fail the test with the text; an unscripted box answers its cancel.
+TEST_F(ScriptedHostTest, MessageBoxOutsideTheScriptFails) {
     int answer = 0;
-    EXPECT_NONFATAL_FAILURE(answer = host().msgBox(QStringLiteral("Save changes?"), vbYesNoCancel,
-                                                   QStringLiteral("Save?")),
+    EXPECT_NONFATAL_FAILURE(answer = host().msgBox("Save changes?", vbYesNoCancel, "Save?"),
                             "Save changes?");
     EXPECT_EQ(answer, vbCancel);
-    EXPECT_NONFATAL_FAILURE(answer = host().msgBox(QStringLiteral("Go on?"), vbYesNo, QString()),
+    EXPECT_NONFATAL_FAILURE(answer = host().msgBox("Go on?", vbYesNo, QString()),
                             "Unscripted message box");
     EXPECT_EQ(answer, vbNo);
-}
-
-TEST_F(ScriptedHostTest, MessageBoxWithOtherTextThanExpectedFails) {
-    hostScript.expectMsgBox(QStringLiteral("Invalid login"), vbOK);
-    EXPECT_NONFATAL_FAILURE(host().msgBox(QStringLiteral("Welcome"), vbOKOnly, QString()),
-                            "Invalid login");
-}
-
-TEST_F(ScriptedHostTest, AnswerThatIsNoButtonOfTheBoxFails) {
+    hostScript.expectMsgBox("Invalid login", vbOK);
+    EXPECT_NONFATAL_FAILURE(host().msgBox("Welcome", vbOKOnly, QString()), "Invalid login");
     hostScript.answerMsgBox(vbYes);
-    EXPECT_NONFATAL_FAILURE(host().msgBox(QStringLiteral("Done."), vbOKOnly, QString()),
-                            "not a button");
+    EXPECT_NONFATAL_FAILURE(host().msgBox("Done.", vbOKOnly, QString()), "not a button");
 }
 
 TEST_F(ScriptedHostTest, UnscriptedInputFileAndPrinterPromptsFailAndAnswerCancel) {
-    QString text = QStringLiteral("x");
-    EXPECT_NONFATAL_FAILURE(
-        text = host().inputBox(QStringLiteral("New name"), QStringLiteral("Rename"), QString()),
-        "New name");
+    QString text = "x";
+    EXPECT_NONFATAL_FAILURE(text = host().inputBox("New name", "Rename", QString()), "New name");
     EXPECT_TRUE(text.isEmpty());
     FileDialogRequest request;
-    request.title = QStringLiteral("Open Module");
-    QString path = QStringLiteral("x");
+    request.title = "Open Module";
+    QString path = "x";
     EXPECT_NONFATAL_FAILURE(path = host().fileDialog(request), "Open Module");
     EXPECT_TRUE(path.isEmpty());
     PrinterChoice choice;
@@ -89,58 +76,46 @@ TEST_F(ScriptedHostTest, UnscriptedInputFileAndPrinterPromptsFailAndAnswerCancel
 }
 
 TEST_F(ScriptedHostTest, UnusedAnswersFailAtVerification) {
-    EXPECT_NONFATAL_FAILURE(
-        {
-            ScriptedHost unused;
-            unused.expectMsgBox(QStringLiteral("Saved."), vbOK);
-        },
-        "Saved.");
-    EXPECT_NONFATAL_FAILURE(
-        {
-            ScriptedHost unused;
-            unused.answerInputBox(QStringLiteral("Tips"));
-        },
-        "Tips");
-    EXPECT_NONFATAL_FAILURE(
-        {
-            ScriptedHost unused;
-            unused.answerFileDialog(QStringLiteral("/tmp/a.bas"));
-        },
-        "/tmp/a.bas");
-    EXPECT_NONFATAL_FAILURE(
-        {
-            ScriptedHost unused;
-            unused.onModal(QStringLiteral("frmUser"), [](FormBase&) {});
-        },
-        "frmUser");
+    const struct {
+        std::function<void(ScriptedHost&)> script;
+        std::string text;
+    } cases[] = {
+        {[](ScriptedHost& s) { s.expectMsgBox("Saved.", vbOK); }, "Saved."},
+        {[](ScriptedHost& s) { s.answerInputBox("Tips"); }, "Tips"},
+        {[](ScriptedHost& s) { s.answerFileDialog("/tmp/a.bas"); }, "/tmp/a.bas"},
+        {[](ScriptedHost& s) { s.onModal("frmUser", [](FormBase&) {}); }, "frmUser"},
+    };
+    for (const auto& c : cases)
+        EXPECT_NONFATAL_FAILURE(
+            {
+                ScriptedHost unused;
+                c.script(unused);
+            },
+            c.text);
 }
 
 TEST_F(ScriptedHostTest, ModalHandlerFillsTheFormAndTheShowReturnsAfterItCloses) {
     frmProbe& form = Forms::get<frmProbe>();
-    hostScript.onModal<frmProbe>(QStringLiteral("frmProbe"), [](frmProbe& f) {
+    hostScript.onModal<frmProbe>("frmProbe", [](frmProbe& f) {
         EXPECT_TRUE(f.isVisible());
-        f.txtName->setText(QStringLiteral("Ada"));
+        f.txtName->setText("Ada");
         f.cmdOk->click();
     });
     QPointer<frmProbe> guard(&form);
     form.Show(vbModal);
     ASSERT_TRUE(guard);
-    EXPECT_EQ(form.accepted, QStringLiteral("Ada"));
+    EXPECT_EQ(form.accepted, "Ada");
     EXPECT_FALSE(form.IsLoaded());
-    EXPECT_EQ(Forms::findByName(QStringLiteral("frmProbe")), nullptr);
-    EXPECT_EQ(hostScript.log(), QStringLiteral("Modal: frmProbe"));
+    EXPECT_EQ(Forms::findByName("frmProbe"), nullptr);
+    EXPECT_EQ(hostScript.log(), "Modal: frmProbe");
 }
 
-TEST_F(ScriptedHostTest, ModalHandlerThatLeavesTheFormShownFails) {
-    frmProbe& form = Forms::get<frmProbe>();
-    hostScript.onModal(QStringLiteral("frmProbe"), [](FormBase&) {});
-    EXPECT_NONFATAL_FAILURE(form.Show(vbModal), "still shown");
-    EXPECT_FALSE(form.isVisible());
-}
-
-TEST_F(ScriptedHostTest, UnscriptedModalShowFails) {
+TEST_F(ScriptedHostTest, ModalShowThatIsUnscriptedOrLeftShownFails) {
     frmProbe& form = Forms::get<frmProbe>();
     EXPECT_NONFATAL_FAILURE(form.Show(vbModal), "Unscripted modal show of frmProbe");
+    hostScript.onModal("frmProbe", [](FormBase&) {});
+    EXPECT_NONFATAL_FAILURE(form.Show(vbModal), "still shown");
+    EXPECT_FALSE(form.isVisible());
 }
 
 TEST_F(ScriptedHostTest, EndStopsTheFlowAndIsRecorded) {
@@ -155,8 +130,8 @@ TEST_F(ScriptedHostTest, EndStopsTheFlowAndIsRecorded) {
 }
 
 TEST_F(ScriptedHostTest, KeepsClipboardPointerShellAndDoEventsState) {
-    host().clipboardSetText(QStringLiteral("Dim a\r\n"));
-    EXPECT_EQ(host().clipboardGetText(), QStringLiteral("Dim a\r\n"));
+    host().clipboardSetText("Dim a\r\n");
+    EXPECT_EQ(host().clipboardGetText(), "Dim a\r\n");
     host().clipboardClear();
     EXPECT_TRUE(hostScript.clipboardText().isEmpty());
 
@@ -166,16 +141,13 @@ TEST_F(ScriptedHostTest, KeepsClipboardPointerShellAndDoEventsState) {
     EXPECT_EQ(hostScript.pointerHistory(), (QList<int>{vbHourglass, vbDefault}));
 
     hostScript.setShellResult(2);
-    EXPECT_EQ(host().shellExecute(QStringLiteral("open"), QStringLiteral("/x/a.pdf"), QString(),
-                                  QString(), 1),
-              2);
+    EXPECT_EQ(host().shellExecute("open", "/x/a.pdf", QString(), QString(), 1), 2);
+    EXPECT_EQ(hostScript.callsOf("Shell").first().toString(), "Shell[1] \"open\": /x/a.pdf -> 2");
     host().doEvents();
     host().doEvents();
     EXPECT_EQ(hostScript.doEventsCount(), 2);
     hostScript.setPreviousInstance(true);
     EXPECT_TRUE(host().previousInstance());
-    EXPECT_EQ(hostScript.callsOf(QStringLiteral("Shell")).first().toString(),
-              QStringLiteral("Shell[1] \"open\": /x/a.pdf -> 2"));
 }
 
 TEST(GlobalResets, RegisteredResetRunsAndNamedOneIsReplaced) {
