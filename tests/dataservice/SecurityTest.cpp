@@ -47,25 +47,15 @@ TEST_F(Security, FirstUserIsMadeFromTheMarkerRecord) {
 
     // The window then saves a second new record of the same id with the level it offered; the
     // user is written over, and his own level stays.
-    cUser again(dbPath);
-    again.BeginEdit(0);
-    again.UserId(QStringLiteral("boss"));
-    again.Password(QStringLiteral("pw"));
-    again.FirstName(QStringLiteral("Big"));
-    again.LastName(QStringLiteral("Boss"));
-    again.AccessLevel(3);
-    again.Question(QStringLiteral("Q"));
-    again.Answer(QStringLiteral("A"));
-    again.Save(QStringLiteral("boss"), 0);
-
+    addUser(QStringLiteral("boss"), QStringLiteral("pw"), 3);
     const auto users = security.GetUsers();
     ASSERT_EQ(users.UBound(), 1);
     EXPECT_EQ(users(1).UserId, QStringLiteral("boss"));
-    EXPECT_EQ(users(1).FirstName, QStringLiteral("Big"));
-    EXPECT_EQ(users(1).LastName, QStringLiteral("Boss"));
+    EXPECT_EQ(users(1).FirstName, QStringLiteral("First boss"));
+    EXPECT_EQ(users(1).LastName, QStringLiteral("Last boss"));
     const cUser stored = security.GetUser(QStringLiteral("boss"), QStringLiteral("pw"), "");
     EXPECT_EQ(stored.AccessLevel(), 1);
-    EXPECT_EQ(stored.Question(), QStringLiteral("Q"));
+    EXPECT_EQ(stored.Question(), QStringLiteral("Pet?"));
 }
 
 TEST_F(Security, MarkerRecordSavedOverAStoredUserKeepsWhatItDidNotSet) {
