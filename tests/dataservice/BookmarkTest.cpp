@@ -19,17 +19,21 @@ protected:
     }
 };
 
-TEST_F(Bookmarks, EachUserSeesOnlyHisOwnInBothTablesOnceEach) {
+TEST_F(Bookmarks, EachUserSeesOnlyHisOwnInBothTablesOnceEachInTheOrderAdded) {
+    const int older = addCode(QStringLiteral("Alpha"));
     const int code = addCode(QStringLiteral("Snippet"), 1, 201, 1);
     const int file = addFile(QStringLiteral("Paper"), 1, 101);
     cLibraryService library(dbPath);
     library.AddBookmark(kCode, code, QStringLiteral("ann"), true);
+    library.AddBookmark(kCode, older, QStringLiteral("ann"), true);
     library.AddBookmark(kFile, file, QStringLiteral("ann"), true);
     library.AddBookmark(kFile, file, QStringLiteral("ann"), true); // a second time adds nothing
     library.AddBookmark(kFile, file, QStringLiteral("bob"), true);
 
+    // Neither by id nor by name: as they were added.
     const auto annCode = library.GetBookmarks(kCode, QStringLiteral("ann"), true);
-    ASSERT_EQ(annCode.UBound(), 1);
+    ASSERT_EQ(annCode.UBound(), 2);
+    EXPECT_EQ(annCode(2).Id, older);
     EXPECT_EQ(annCode(1).Id, code);
     EXPECT_EQ(annCode(1).TypeId, 201);
     EXPECT_EQ(annCode(1).Tested, 1);
@@ -40,18 +44,6 @@ TEST_F(Bookmarks, EachUserSeesOnlyHisOwnInBothTablesOnceEach) {
     const auto bobCode = library.GetBookmarks(kCode, QStringLiteral("bob"));
     EXPECT_EQ(bobCode.LBound(), 0);
     EXPECT_EQ(bobCode.UBound(), 0);
-}
-
-TEST_F(Bookmarks, BookmarksComeInTheOrderTheyWereAdded) {
-    const int first = addCode(QStringLiteral("zeta"));
-    const int second = addCode(QStringLiteral("alpha"));
-    cLibraryService library(dbPath);
-    library.AddBookmark(kCode, second, QStringLiteral("ann"));
-    library.AddBookmark(kCode, first, QStringLiteral("ann"));
-    const auto rows = library.GetBookmarks(kCode, QStringLiteral("ann"));
-    ASSERT_EQ(rows.UBound(), 2);
-    EXPECT_EQ(rows(1).Id, second);
-    EXPECT_EQ(rows(2).Id, first);
 }
 
 TEST_F(Bookmarks, DeletingABookmarkLeavesTheItemAndOtherUsersBookmarks) {

@@ -48,11 +48,6 @@ void expectConsistent(const QString& path, int revisions) {
         "INSERT INTO SourceCodeSearch (SourceCodeSearch, rank) VALUES ('integrity-check', 1)")));
 }
 
-int countRows(const QString& path, const QString& table) {
-    RawDb raw(path);
-    return raw.value(QStringLiteral("SELECT COUNT(*) FROM %1").arg(table)).toInt();
-}
-
 // Waits up to 30 s for one byte on fd.
 bool readByte(int fd) {
     pollfd p{fd, POLLIN, 0};
@@ -60,6 +55,49 @@ bool readByte(int fd) {
         return false;
     char c = 0;
     return read(fd, &c, 1) == 1;
+}
+
+// What a child writes to its pipe to say it got somewhere.
+void tell(int fd) {
+    const char c = 'c';
+    if (write(fd, &c, 1) != 1)
+        _exit(2);
+}
+
+// Tells and then waits to be killed.
+[[noreturn]] void tellAndHang(int fd) {
+    tell(fd);
+    for (;;)
+        pause();
+}
+
+// Forks a child that runs body with the write end of a pipe; once `bytes` bytes came from it and
+// `delayUs` more passed, kills it. Returns how many bytes came.
+int killChildAfter(const std::function<void(int)>& body, int bytes, useconds_t delayUs) {
+    int fds[2];
+    if (pipe(fds) != 0)
+        return 0;
+    const pid_t child = fork();
+    if (child == 0) {
+        close(fds[0]);
+        try {
+            body(fds[1]);
+        } catch (...) {
+        }
+        _exit(3);
+    }
+    close(fds[1]);
+    int got = 0;
+    while (child > 0 && got < bytes && readByte(fds[0]))
+        ++got;
+    usleep(delayUs);
+    if (child > 0)
+        kill(child, SIGKILL);
+    int status = 0;
+    waitpid(child, &status, 0);
+    close(fds[0]);
+    EXPECT_TRUE(WIFSIGNALED(status));
+    return got;
 }
 
 } // namespace
@@ -148,7 +186,8 @@ TEST_F(Backup, TakenWhileAnotherConnectionWritesIsConsistent) {
     int previous = 0;
     for (const QString& backup : backups) {
         expectConsistent(backup, kRevisions);
-        const int items = countRows(backup, QStringLiteral("SourceCode"));
+        const int items =
+            RawDb(backup).value(QStringLiteral("SELECT COUNT(*) FROM SourceCode")).toInt();
         EXPECT_GE(items, previous);
         previous = items;
         EXPECT_EQ(cLibraryService(backup).GetLookup(QStringLiteral("CodeStatus")).UBound(), 2);
@@ -224,57 +263,22 @@ protected:
         }
     }
 
-    // Forks a child that runs `body` with the pipe's write end; returns once the child has
-    // written its first byte and `delayUs` more have passed, after killing it.
-    void killChildAfterFirstByte(const std::function<void(int)>& body, useconds_t delayUs) {
-        int pipeFds[2];
-        ASSERT_EQ(pipe(pipeFds), 0);
-        const pid_t child = fork();
-        ASSERT_GE(child, 0);
-        if (child == 0) {
-            close(pipeFds[0]);
-            try {
-                body(pipeFds[1]);
-            } catch (...) {
-            }
-            _exit(3);
-        }
-        close(pipeFds[1]);
-        const bool started = readByte(pipeFds[0]);
-        usleep(delayUs);
-        kill(child, SIGKILL);
-        int status = 0;
-        waitpid(child, &status, 0);
-        close(pipeFds[0]);
-        ASSERT_TRUE(started);
-        EXPECT_TRUE(WIFSIGNALED(status));
-    }
-
     void expectWholeLibrary() {
         expectConsistent(dbPath, 2);
         const auto items =
             cLibraryService(dbPath).GetItems(QStringLiteral("SourceCode"), 0, 0, 0, 0, 0, 0, 0);
         EXPECT_EQ(items.UBound(), kItems);
     }
-
-    static void tell(int fd) {
-        const char c = 'c';
-        if (write(fd, &c, 1) != 1)
-            _exit(2);
-    }
 };
 
 TEST_F(CompactKilled, WithTheCopyWholeButNotYetInPlaceLeavesTheOldLibrary) {
-    killChildAfterFirstByte(
-        [this](int fd) {
-            SqliteStore::setBeforeReplaceHook([fd] {
-                tell(fd);
-                for (;;)
-                    pause();
-            });
-            cLibraryService(dbPath).CompactDatabase(dbPath);
-        },
-        0);
+    ASSERT_EQ(killChildAfter(
+                  [this](int fd) {
+                      SqliteStore::setBeforeReplaceHook([fd] { tellAndHang(fd); });
+                      cLibraryService(dbPath).CompactDatabase(dbPath);
+                  },
+                  1, 0),
+              1);
     EXPECT_TRUE(QFileInfo::exists(dbPath + QStringLiteral(".compacting")));
     expectWholeLibrary();
     // The next compaction clears what the killed one left.
@@ -292,14 +296,15 @@ TEST_F(CompactKilled, AtAnyMomentOfACompactionLeavesAWholeLibrary) {
     // the end of its first.
     for (int step = 0; step <= 6; ++step) {
         SCOPED_TRACE(step);
-        killChildAfterFirstByte(
-            [this](int fd) {
-                for (;;) {
-                    cLibraryService(dbPath).CompactDatabase(dbPath);
-                    tell(fd);
-                }
-            },
-            static_cast<useconds_t>(durationUs * step / 6));
+        ASSERT_EQ(killChildAfter(
+                      [this](int fd) {
+                          for (;;) {
+                              cLibraryService(dbPath).CompactDatabase(dbPath);
+                              tell(fd);
+                          }
+                      },
+                      1, static_cast<useconds_t>(durationUs * step / 6)),
+                  1);
         expectWholeLibrary();
     }
 }
@@ -331,36 +336,14 @@ TEST_F(SharedFile, TwoServiceObjectsSeeEachOthersSaves) {
 
 TEST_F(SharedFile, ProcessKilledBeforeItsCommitLeavesTheLastCommittedState) {
     saveItem(dbPath, QStringLiteral("committed"), 4);
-    int pipeFds[2];
-    ASSERT_EQ(pipe(pipeFds), 0);
-    const pid_t child = fork();
-    ASSERT_GE(child, 0);
-    if (child == 0) {
-        // Everything of the save is written; the commit never comes.
-        close(pipeFds[0]);
-        const int fd = pipeFds[1];
-        SqliteStore::setBeforeCommitHook([fd] {
-            const char c = 'w';
-            if (write(fd, &c, 1) != 1)
-                _exit(2);
-            for (;;)
-                pause();
-        });
-        try {
-            saveItem(dbPath, QStringLiteral("killed"), 50);
-        } catch (...) {
-        }
-        _exit(3);
-    }
-    close(pipeFds[1]);
-    const bool reachedCommit = readByte(pipeFds[0]);
-    kill(child, SIGKILL);
-    int status = 0;
-    waitpid(child, &status, 0);
-    close(pipeFds[0]);
-    ASSERT_TRUE(reachedCommit);
-    EXPECT_TRUE(WIFSIGNALED(status));
-
+    // Everything of the save is written; the commit never comes.
+    ASSERT_EQ(killChildAfter(
+                  [this](int fd) {
+                      SqliteStore::setBeforeCommitHook([fd] { tellAndHang(fd); });
+                      saveItem(dbPath, QStringLiteral("killed"), 50);
+                  },
+                  1, 0),
+              1);
     expectConsistent(dbPath, 4);
     const auto items =
         cLibraryService(dbPath).GetItems(QStringLiteral("SourceCode"), 0, 0, 0, 0, 0, 0, 0);
@@ -373,34 +356,15 @@ TEST_F(SharedFile, ProcessKilledBeforeItsCommitLeavesTheLastCommittedState) {
 
 TEST_F(SharedFile, ProcessKilledAtAnyMomentOfASaveLoopLosesNoCommittedSave) {
     constexpr int kRevisions = 5;
-    int pipeFds[2];
-    ASSERT_EQ(pipe(pipeFds), 0);
-    const pid_t child = fork();
-    ASSERT_GE(child, 0);
-    if (child == 0) {
-        close(pipeFds[0]);
-        try {
+    const int committed = killChildAfter(
+        [this](int fd) {
             for (int i = 0;; ++i) {
                 saveItem(dbPath, QStringLiteral("item %1").arg(i), kRevisions);
-                const char c = 's';
-                if (write(pipeFds[1], &c, 1) != 1)
-                    _exit(2);
+                tell(fd);
             }
-        } catch (...) {
-        }
-        _exit(3);
-    }
-    close(pipeFds[1]);
-    int committed = 0;
-    while (committed < 15 && readByte(pipeFds[0]))
-        ++committed;
-    usleep(static_cast<useconds_t>(1000 + (QDateTime::currentMSecsSinceEpoch() % 7) * 700));
-    kill(child, SIGKILL);
-    int status = 0;
-    waitpid(child, &status, 0);
-    close(pipeFds[0]);
+        },
+        15, static_cast<useconds_t>(1000 + (QDateTime::currentMSecsSinceEpoch() % 7) * 700));
     ASSERT_EQ(committed, 15);
-
     expectConsistent(dbPath, kRevisions);
     EXPECT_GE(rows(QStringLiteral("SourceCode")), committed);
 }

@@ -99,7 +99,8 @@ protected:
 
 TEST_F(Export, XmlItemStartsWithTheMarkerLineAndEscapesEveryField) {
     const cSourceCode rec = item(QStringLiteral("Compare <two> & \"more\""), kNastyCode, 0);
-    const QString path = home->file("out.xml");
+    // Without append whatever the file held is replaced.
+    const QString path = WriteFile(home->file("out.xml"), "not xml at all");
     rec.ExportXml(path, false, false);
     EXPECT_EQ(markerLines(path),
               QStringList{QStringLiteral("<SourceItem SourceId = \"%1\">").arg(rec.Id())});
@@ -117,26 +118,9 @@ TEST_F(Export, XmlItemStartsWithTheMarkerLineAndEscapesEveryField) {
     EXPECT_TRUE(ReadFile(path).contains("\r\n</SourceItems>\r\n"));
 }
 
-TEST_F(Export, XmlCarriesRevisionsOnlyWhenAsked) {
-    const cSourceCode rec = item(QStringLiteral("With history"), QStringLiteral("x = 1"), 2);
-    const QString path = home->file("history.xml");
-    rec.ExportXml(path, false, true);
-    auto items = parseExport(path);
-    ASSERT_EQ(items.size(), 1);
-    ASSERT_TRUE(items[0].hasRevisions);
-    ASSERT_EQ(items[0].revisions.size(), 2);
-    EXPECT_EQ(items[0].revisions[0]["Version"], "1.0.0");
-    EXPECT_EQ(items[0].revisions[1]["Comment"], "Change <1>");
-    EXPECT_EQ(items[0].revisions[1]["DateRevised"], "2003-05-02T09:30:00");
-    rec.ExportXml(path, false, false);
-    items = parseExport(path);
-    ASSERT_EQ(items.size(), 1);
-    EXPECT_FALSE(items[0].hasRevisions);
-}
-
 TEST_F(Export, AppendingAddsItemsAndKeepsTheDocumentWellFormed) {
     const cSourceCode a = item(QStringLiteral("First"), QStringLiteral("a"), 1);
-    const cSourceCode b = item(QStringLiteral("Second"), kNastyCode, 1);
+    const cSourceCode b = item(QStringLiteral("Second"), kNastyCode, 2);
     const QString path = home->file("many.xml");
     a.ExportXml(path, true, false); // append to a file that isn't there makes it
     b.ExportXml(path, true, true);
@@ -144,8 +128,12 @@ TEST_F(Export, AppendingAddsItemsAndKeepsTheDocumentWellFormed) {
     const auto items = parseExport(path);
     ASSERT_EQ(items.size(), 3);
     EXPECT_EQ(items[0].fields["Description"], "First");
+    EXPECT_FALSE(items[0].hasRevisions);
     EXPECT_EQ(items[1].fields["Description"], "Second");
-    EXPECT_TRUE(items[1].hasRevisions);
+    ASSERT_EQ(items[1].revisions.size(), 2);
+    EXPECT_EQ(items[1].revisions[0]["Version"], "1.0.0");
+    EXPECT_EQ(items[1].revisions[1]["Comment"], "Change <1>");
+    EXPECT_EQ(items[1].revisions[1]["DateRevised"], "2003-05-02T09:30:00");
     EXPECT_EQ(items[2].id, QString::number(a.Id()));
     EXPECT_EQ(markerLines(path).size(), 3);
 }
@@ -167,14 +155,6 @@ TEST_F(Export, AppendingToAFileThatIsNoExportRaisesAndLeavesItAlone) {
     }
 }
 
-TEST_F(Export, WithoutAppendAnyExistingFileIsReplaced) {
-    const cSourceCode rec = item(QStringLiteral("Fresh"), QStringLiteral("a"), 0);
-    const QString path = home->file("old.xml");
-    WriteFile(path, "not xml at all");
-    rec.ExportXml(path, false, false);
-    ASSERT_EQ(parseExport(path).size(), 1);
-}
-
 TEST_F(Export, XmlToAnEmptyPathWritesNothingAndRaisesNothing) {
     // The XML command looks at the path only after the call.
     const cSourceCode rec = item(QStringLiteral("Nowhere"), QStringLiteral("a"), 1);
@@ -185,7 +165,7 @@ TEST_F(Export, XmlToAnEmptyPathWritesNothingAndRaisesNothing) {
     EXPECT_EQ(here.entryList(QDir::Files), before);
 }
 
-TEST_F(Export, TextIsWindows1252WithCrLfLineEnds) {
+TEST_F(Export, TextIsWindows1252WithCrLfLineEndsAndAMissingFolderRaises) {
     const cSourceCode rec = item(QStringLiteral("Text"), QStringLiteral("a"), 0);
     const QString path = home->file("out.txt");
     rec.ExportText(path, QString::fromUtf8("one\ntwo\r\nthree\rfour \xe2\x82\xac\xc3\xa9\xc3\xbc"
@@ -193,15 +173,11 @@ TEST_F(Export, TextIsWindows1252WithCrLfLineEnds) {
                                            "\xf0\x9f\x98\x80."));
     EXPECT_EQ(ReadFile(path),
               QByteArray("one\r\ntwo\r\nthree\r\nfour \x80\xe9\xfc\x97\x93q\x94??."));
-}
-
-TEST_F(Export, TextToAFolderThatIsNotThereRaises) {
-    const cSourceCode rec = item(QStringLiteral("Text"), QStringLiteral("a"), 0);
     const QsError e = Raised([&] { rec.ExportText(home->file("no/such/dir/x.txt"), "a"); });
     EXPECT_EQ(e.source(), "cSourceCode:ExportText;");
 }
 
-TEST_F(Export, PdfTextComesBackPaginatedWithPageNumbers) {
+TEST_F(Export, PdfTextComesBackPaginatedWithPageNumbersAndEmptyTextIsOnePage) {
     const QString pdftotext = QStandardPaths::findExecutable(QStringLiteral("pdftotext"));
     ASSERT_FALSE(pdftotext.isEmpty()) << "pdftotext (poppler-utils) is not installed";
     QStringList lines;
@@ -233,13 +209,7 @@ TEST_F(Export, PdfTextComesBackPaginatedWithPageNumbers) {
     const QString flat = QString(text).remove(QRegularExpression(QStringLiteral("\\s")));
     EXPECT_TRUE(flat.contains(QStringLiteral("Tail") + QString(300, QLatin1Char('w')) +
                               QStringLiteral("End")));
-}
-
-TEST_F(Export, PdfOfEmptyTextIsOneNumberedPage) {
-    const QString pdftotext = QStandardPaths::findExecutable(QStringLiteral("pdftotext"));
-    ASSERT_FALSE(pdftotext.isEmpty()) << "pdftotext (poppler-utils) is not installed";
-    const cSourceCode rec = item(QStringLiteral("Pdf"), QStringLiteral("a"), 0);
-    const QString path = home->file("empty.pdf");
+    // Empty text is one numbered page.
     rec.ExportPdf(path, QString());
     EXPECT_EQ(pdfText(pdftotext, {path}).trimmed(), "Page 1 of 1");
 }

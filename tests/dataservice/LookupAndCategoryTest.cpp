@@ -58,24 +58,14 @@ TEST_F(Categories, AddRenameAndDeleteAnEmptyCategory) {
     EXPECT_EQ(library.GetLookup(QStringLiteral("Category")).UBound(), 1);
 }
 
-TEST_F(Categories, CategoryHoldingOnlyAnEmptyFolderIsNotDeleted) {
+TEST_F(Categories, VisualBasicOneHoldingAFolderAndAnUnknownIdAreRefused) {
     cLibraryService library(dbPath);
-    const int id = library.AddCategory(QStringLiteral("Busy"));
-    addFile(QStringLiteral("Empty folder"), id, 102, 0, true);
-    const QsError e = Raised([&] { library.DeleteCategory(id); });
-    EXPECT_EQ(e.number(), kErrRecordInUse);
-    EXPECT_EQ(library.GetLookup(QStringLiteral("Category")).UBound(), 2);
-}
-
-TEST_F(Categories, VisualBasicCannotBeDeleted) {
-    cLibraryService library(dbPath);
+    const int busy = library.AddCategory(QStringLiteral("Busy"));
+    addFile(QStringLiteral("Empty folder"), busy, 102, 0, true);
     EXPECT_EQ(Raised([&] { library.DeleteCategory(1); }).number(), kErrRecordInUse);
-    EXPECT_EQ(library.GetLookup(QStringLiteral("Category"))(1).Description,
-              QStringLiteral("Visual Basic"));
-}
-
-TEST_F(Categories, RenamingAnUnknownCategoryRaisesNotFound) {
-    EXPECT_EQ(
-        Raised([&] { cLibraryService(dbPath).UpdateCategory(77, QStringLiteral("x")); }).number(),
-        kErrRecordNotFound);
+    EXPECT_EQ(Raised([&] { library.DeleteCategory(busy); }).number(), kErrRecordInUse);
+    EXPECT_EQ(Raised([&] { library.UpdateCategory(77, QStringLiteral("x")); }).number(),
+              kErrRecordNotFound);
+    EXPECT_EQ(texts(library.GetLookup(QStringLiteral("Category"))),
+              (QStringList{"1=Visual Basic", QString::number(busy) + "=Busy"}));
 }

@@ -6,6 +6,7 @@
 #include "cSourceCode.h"
 #include "cSourceFile.h"
 
+#include <QHash>
 #include <QRandomGenerator>
 #include <QSet>
 #include <algorithm>
@@ -146,15 +147,7 @@ QList<int> referenceSearch(const QVector<Item>& items, int mode, const QString& 
     return found;
 }
 
-// --- modes --------------------------------------------------------------------------------
-
-TEST_F(SearchTest, ExactPhraseNeedsTheWordsTogetherInThatOrder) {
-    const int together = add(QStringLiteral("Read the registry key"));
-    add(QStringLiteral("key of the registry"));
-    add(QStringLiteral("registry  key"));
-    EXPECT_EQ(ids(0, QStringLiteral("Registry Key")), QList<int>{together});
-    EXPECT_EQ(ids(0, QStringLiteral("  registry key  ")), QList<int>{together});
-}
+// --- modes ------------------------------------------------------------------------------
 
 // The index holds the separators between words, so a phrase is found only with its own.
 TEST_F(SearchTest, PunctuationBetweenWordsMatchesAsTyped) {
@@ -190,115 +183,91 @@ TEST_F(SearchTest, PunctuationBetweenWordsMatchesAsTyped) {
     }
 }
 
-TEST_F(SearchTest, AnyWordFindsRowsWithOneOfTheWords) {
-    const int a = add(QStringLiteral("alpha"));
-    const int b = add(QString(), QStringLiteral("beta"));
-    add(QStringLiteral("gamma"));
-    EXPECT_EQ(ids(1, QStringLiteral("alpha beta")), (QList<int>{a, b}));
-}
-
-TEST_F(SearchTest, AllWordsMayComeFromDifferentFields) {
-    const int both = add(QStringLiteral("alpha"), QString(), QString(), QStringLiteral("beta"));
-    add(QStringLiteral("alpha only"));
-    EXPECT_EQ(ids(2, QStringLiteral("beta alpha")), QList<int>{both});
-    EXPECT_EQ(ids(2, QStringLiteral("alpha")), (QList<int>{both, both + 1}));
-}
-
-TEST_F(SearchTest, EveryTextFieldIsSearched) {
-    const int d = add(QStringLiteral("needle"));
-    const int c = add(QString(), QStringLiteral("x = needle"));
-    const int n = add(QString(), QString(), QStringLiteral("see needle"));
-    const int e = add(QString(), QString(), QString(), QStringLiteral("needle()"));
-    EXPECT_EQ(ids(1, QStringLiteral("NEEDLE")), (QList<int>{d, c, n, e}));
-}
-
-TEST_F(SearchTest, AnUnknownMatchModeIsRefused) {
-    EXPECT_THROW(ids(3, QStringLiteral("x")), QsError);
-    EXPECT_THROW(ids(-1, QStringLiteral("x")), QsError);
-}
-
 // --- what matches ---------------------------------------------------------------------------
 
-TEST_F(SearchTest, AWordMatchesAtTheStartOfAWordOnly) {
-    const int registry = add(QStringLiteral("Registry"));
-    const int call = add(QString(), QStringLiteral("x = (reg)"));
-    add(QString(), QStringLiteral("GetRegValue"));
-    EXPECT_EQ(ids(1, QStringLiteral("reg")), (QList<int>{registry, call}));
-    EXPECT_EQ(ids(1, QStringLiteral("egistry")), QList<int>{});
-}
-
-TEST_F(SearchTest, OneLetterFindsWordsBeginningWithIt) {
-    const int x = add(QStringLiteral("x marks"));
-    const int xml = add(QStringLiteral("Xml writer"));
-    add(QStringLiteral("box"));
-    EXPECT_EQ(ids(1, QStringLiteral("x")), (QList<int>{x, xml}));
-}
-
-TEST_F(SearchTest, PunctuationStartingAPieceMatchesAnywhere) {
-    const int percent = add(QStringLiteral("50% done"));
-    const int under = add(QString(), QStringLiteral("my_var = 1"));
-    const int slash = add(QString(), QStringLiteral("C:\\Temp\\x"));
-    add(QStringLiteral("plain"));
-    EXPECT_EQ(ids(1, QStringLiteral("%")), QList<int>{percent});
-    EXPECT_EQ(ids(1, QStringLiteral("_")), QList<int>{under});
-    EXPECT_EQ(ids(1, QStringLiteral("\\temp\\")), QList<int>{slash});
-    EXPECT_EQ(ids(1, QStringLiteral("_var")), QList<int>{under});
-}
-
-TEST_F(SearchTest, PercentAndUnderscoreAreNotWildcards) {
-    add(QStringLiteral("abc"));
-    add(QStringLiteral("a c"));
-    EXPECT_EQ(ids(0, QStringLiteral("a%c")), QList<int>{});
-    EXPECT_EQ(ids(0, QStringLiteral("a_c")), QList<int>{});
-}
-
-TEST_F(SearchTest, PunctuationInsideAWordMustBeThere) {
-    const int dotted = add(QString(), QStringLiteral("Call foo.bar(1)"));
-    add(QString(), QStringLiteral("foo bar"));
-    add(QString(), QStringLiteral("foo-bar"));
-    EXPECT_EQ(ids(1, QStringLiteral("foo.bar")), QList<int>{dotted});
-    EXPECT_EQ(ids(0, QStringLiteral("foo.bar(1)")), QList<int>{dotted});
-}
-
-TEST_F(SearchTest, QuotesAndSqlLookingTextAreSearchedAsText) {
-    const int quoted = add(QString(), QStringLiteral("MsgBox \"Don't\""));
-    const int sql = add(QString(), QStringLiteral("x = \"'; DROP TABLE SourceCode; --\""));
-    const int fts = add(QStringLiteral("NEAR(a b) OR c*"));
-    EXPECT_EQ(ids(0, QStringLiteral("\"Don't\"")), QList<int>{quoted});
-    EXPECT_EQ(ids(0, QStringLiteral("'; DROP TABLE SourceCode; --")), QList<int>{sql});
-    EXPECT_EQ(ids(0, QStringLiteral("NEAR(a b) OR c*")), QList<int>{fts});
-    EXPECT_EQ(ids(1, QStringLiteral("\" ' ; --")), (QList<int>{quoted, sql}));
-    EXPECT_EQ(ids(1, QStringLiteral("OR")), QList<int>{fts});
-    EXPECT_EQ(cLibraryService(dbPath).GetSourceCode(sql).Code(),
+// Each case searches the rows its own items were saved to and expects, in id order, the items
+// listed; an item is "description|code|notes|example".
+TEST_F(SearchTest, WhatEachModeMatches) {
+    const QStringList phrase{"Read the registry key", "key of the registry", "registry  key"};
+    const QStringList fields{"alpha|||beta", "alpha only"};
+    const QStringList starts{"Registry", "|x = (reg)", "|GetRegValue"};
+    const QStringList punct{"50% done", "|my_var = 1", "|C:\\Temp\\x", "plain"};
+    const QStringList dotted{"|Call foo.bar(1)", "|foo bar", "|foo-bar"};
+    const QStringList quoted{"|MsgBox \"Don't\"", "|x = \"'; DROP TABLE SourceCode; --\"",
+                             "NEAR(a b) OR c*"};
+    const QStringList umlaut{"Ärger über Größe", "|ΣΟΦΊΑ", "Arger uber"};
+    const QStringList other{"\uE000value", "\u201Cvalue\u201D", "a\u00A0value"};
+    const struct {
+        int mode;
+        QString query;
+        QStringList items;
+        QList<int> hits;
+    } cases[] = {
+        {0, "Registry Key", phrase, {0}},
+        {0, "  registry key  ", phrase, {0}},
+        {1, "alpha beta", {"alpha", "|beta", "gamma"}, {0, 1}},
+        {2, "beta alpha", fields, {0}},
+        {2, "alpha", fields, {0, 1}},
+        {2, "  alpha    beta  ", {"alpha beta"}, {0}},
+        {1, "\talpha\r\n", {"alpha beta"}, {0}},
+        {1, "NEEDLE", {"needle", "|x = needle", "||see needle", "|||needle()"}, {0, 1, 2, 3}},
+        // A word matches at the start of a word only; punctuation starting a piece anywhere.
+        {1, "reg", starts, {0, 1}},
+        {1, "egistry", starts, {}},
+        {1, "x", {"x marks", "Xml writer", "box"}, {0, 1}},
+        {1, "%", punct, {0}},
+        {1, "_", punct, {1}},
+        {1, "\\temp\\", punct, {2}},
+        {1, "_var", punct, {1}},
+        {0, "a%c", {"abc", "a c"}, {}},
+        {0, "a_c", {"abc", "a c"}, {}},
+        {1, "foo.bar", dotted, {0}},
+        {0, "foo.bar(1)", dotted, {0}},
+        // Quotes and what looks like SQL or an index query are text.
+        {0, "\"Don't\"", quoted, {0}},
+        {0, "'; DROP TABLE SourceCode; --", quoted, {1}},
+        {0, "NEAR(a b) OR c*", quoted, {2}},
+        {1, "\" ' ; --", quoted, {0, 1}},
+        {1, "OR", quoted, {2}},
+        // Letters outside ASCII compare without case, but keep their marks and their length.
+        {1, "ärger", umlaut, {0}},
+        {0, "ÜBER GRÖSSE", umlaut, {}},
+        {0, "ÜBER GRÖßE", umlaut, {0}},
+        {1, "σοφ", umlaut, {1}},
+        {1, "röße", umlaut, {}},
+        {1, "angstrom", {"||Straße und Ångström"}, {}},
+        {2, "ÅNGSTRÖM straße", {"||Straße und Ångström"}, {0}},
+        {1, "kelvin", {"\u212Aelvin", "\u017Ftring"}, {0}},
+        {1, "STRING", {"\u212Aelvin", "\u017Ftring"}, {1}},
+        // A private-use character is a word character to the tokenizer; a curly quote and a
+        // no-break space are not.
+        {1, "value", other, {1, 2}},
+        {1, "valué", other, {}},
+    };
+    QHash<QString, int> saved;
+    const auto idOf = [&](const QString& item) {
+        if (!saved.contains(item)) {
+            const QStringList f = item.split(QLatin1Char('|'));
+            saved[item] = add(f.value(0), f.value(1), f.value(2), f.value(3));
+        }
+        return saved.value(item);
+    };
+    for (const auto& c : cases) {
+        QList<int> mine, expected;
+        for (const QString& item : c.items)
+            mine << idOf(item);
+        for (const int hit : c.hits)
+            expected << mine.at(hit);
+        std::sort(expected.begin(), expected.end());
+        QList<int> found;
+        for (const int id : ids(c.mode, c.query))
+            if (mine.contains(id))
+                found << id;
+        EXPECT_EQ(found, expected)
+            << "mode " << c.mode << " query [" << c.query.toStdString() << "]";
+    }
+    EXPECT_EQ(cLibraryService(dbPath).GetSourceCode(idOf(quoted.at(1))).Code(),
               QStringLiteral("x = \"'; DROP TABLE SourceCode; --\""));
-}
-
-TEST_F(SearchTest, NonAsciiLettersCompareWithoutCase) {
-    const int umlaut = add(QStringLiteral("Ärger über Größe"));
-    const int greek = add(QString(), QStringLiteral("ΣΟΦΊΑ"));
-    add(QStringLiteral("Arger uber"));
-    EXPECT_EQ(ids(1, QStringLiteral("ärger")), QList<int>{umlaut});
-    EXPECT_EQ(ids(0, QStringLiteral("ÜBER GRÖSSE")), QList<int>{});
-    EXPECT_EQ(ids(0, QStringLiteral("ÜBER GRÖßE")), QList<int>{umlaut});
-    EXPECT_EQ(ids(1, QStringLiteral("σοφ")), QList<int>{greek});
-    EXPECT_EQ(ids(1, QStringLiteral("röße")), QList<int>{});
-}
-
-TEST_F(SearchTest, KelvinSignAndLongSAreTheirAsciiLetters) {
-    const int kelvin = add(QString::fromUtf8("\u212Aelvin"));
-    const int longS = add(QString::fromUtf8("\u017Ftring"));
-    EXPECT_EQ(ids(1, QStringLiteral("kelvin")), QList<int>{kelvin});
-    EXPECT_EQ(ids(1, QStringLiteral("STRING")), QList<int>{longS});
-}
-
-TEST_F(SearchTest, WordStartsFollowTheIndexTokenizerOutsideAscii) {
-    // A private-use character is a word character to the tokenizer; a curly quote and a
-    // no-break space are not.
-    add(QString::fromUtf8("\uE000value"));
-    const int quoted = add(QString::fromUtf8("\u201Cvalue\u201D"));
-    const int spaced = add(QString::fromUtf8("a\u00A0value"));
-    EXPECT_EQ(ids(1, QStringLiteral("value")), (QList<int>{quoted, spaced}));
-    EXPECT_EQ(ids(1, QStringLiteral("valué")), QList<int>{});
 }
 
 // The service reads its candidates as the UTF-8 bytes they are stored in and finds an ASCII
@@ -325,7 +294,7 @@ TEST_F(SearchTest, CandidatesReadAsStoredBytesAnswerAsTheirText) {
     }
 }
 
-TEST_F(SearchTest, AnEmptyOrBlankSearchFindsNothing) {
+TEST_F(SearchTest, BlankTextFindsNothingAndAnUnknownModeIsRefused) {
     add(QStringLiteral("anything"));
     for (int mode = 0; mode <= 2; ++mode) {
         for (const QString& text : {QString(), QStringLiteral("   "), QStringLiteral("\t\r\n")}) {
@@ -334,12 +303,8 @@ TEST_F(SearchTest, AnEmptyOrBlankSearchFindsNothing) {
             EXPECT_EQ(rows.UBound(), 0);
         }
     }
-}
-
-TEST_F(SearchTest, EmptyWordsBetweenBlanksAreIgnored) {
-    const int both = add(QStringLiteral("alpha beta"));
-    EXPECT_EQ(ids(2, QStringLiteral("  alpha    beta  ")), QList<int>{both});
-    EXPECT_EQ(ids(1, QStringLiteral("\talpha\r\n")), QList<int>{both});
+    EXPECT_THROW(ids(3, QStringLiteral("x")), QsError);
+    EXPECT_THROW(ids(-1, QStringLiteral("x")), QsError);
 }
 
 // --- filters, folders and stored files ------------------------------------------------------
@@ -407,15 +372,17 @@ TEST_F(SearchTest, EverySaveIsSeenByTheNextSearch) {
 
     cSourceCode record = cLibraryService(dbPath).GetSourceCode(id);
     record.BeginEdit(0);
+    record.Description(QStringLiteral("Mergesort"));
     record.Code(QStringLiteral("Dim newName"));
     record.Notes(QStringLiteral("renamed %"));
     record.Save();
-    EXPECT_EQ(ids(1, QStringLiteral("oldname")), QList<int>{});
+    EXPECT_EQ(ids(1, QStringLiteral("oldname first")), QList<int>{});
     EXPECT_EQ(ids(1, QStringLiteral("newname")), QList<int>{id});
+    EXPECT_EQ(ids(1, QStringLiteral("mergesort")), QList<int>{id});
     EXPECT_EQ(ids(0, QStringLiteral("renamed %")), QList<int>{id});
 
     test::DeleteRecord(record);
-    EXPECT_EQ(ids(1, QStringLiteral("newname")), QList<int>{});
+    EXPECT_EQ(ids(1, QStringLiteral("newname mergesort")), QList<int>{});
     EXPECT_EQ(ids(0, QStringLiteral("renamed %")), QList<int>{});
 }
 

@@ -8,39 +8,29 @@ using namespace qs::test;
 
 using Security = DataServiceTest;
 
-TEST_F(Security, LoginWithTheRightPasswordGivesTheUser) {
-    addUser(QStringLiteral("ann"), QStringLiteral("Secret"));
-    const cUser user =
-        cSecurityService(dbPath).GetUser(QStringLiteral("ann"), QStringLiteral("Secret"), "0");
-    EXPECT_EQ(user.UserId(), QStringLiteral("ann"));
-    EXPECT_EQ(user.AccessLevel(), 1);
-    EXPECT_EQ(user.FirstName(), QStringLiteral("First ann"));
-}
-
-TEST_F(Security, WrongPasswordAndUnknownIdGiveTheSameMarkerRecord) {
-    addUser(QStringLiteral("ann"), QStringLiteral("Secret"));
-    cSecurityService security(dbPath);
-    const cUser wrong = security.GetUser(QStringLiteral("ann"), QStringLiteral("secret"), "");
-    const cUser unknown = security.GetUser(QStringLiteral("zed"), QStringLiteral("Secret"), "");
-    for (const cUser& user : {wrong, unknown}) {
-        EXPECT_EQ(user.UserId(), QStringLiteral("Q70707"));
-        EXPECT_TRUE(user.Password().isEmpty());
-        EXPECT_TRUE(user.FirstName().isEmpty());
-        EXPECT_EQ(user.AccessLevel(), 0);
-        EXPECT_FALSE(user.IsStored());
-    }
-}
-
-TEST_F(Security, LookupWithoutPasswordGivesTheFullRecord) {
+// The right password or none gives the whole record; a wrong one or an unknown id the marker.
+TEST_F(Security, GetUserGivesTheStoredRecordOrTheEmptyMarker) {
     addUser(QStringLiteral("ann"), QStringLiteral("Secret"), 2);
-    const cUser user =
-        cSecurityService(dbPath).GetUser(QStringLiteral("ann"), QString(), QStringLiteral("ann"));
-    EXPECT_EQ(user.Password(), QStringLiteral("Secret"));
-    EXPECT_EQ(user.Question(), QStringLiteral("Pet?"));
-    EXPECT_EQ(user.Answer(), QStringLiteral("Rex"));
-    EXPECT_EQ(user.AccessLevel(), 2);
-    EXPECT_EQ(cSecurityService(dbPath).GetUser(QStringLiteral("zed"), QString(), "").UserId(),
-              QStringLiteral("Q70707"));
+    const struct {
+        const char* id;
+        QString password;
+        bool found;
+    } cases[] = {{"ann", "Secret", true},
+                 {"ann", QString(), true},
+                 {"ann", "secret", false},
+                 {"zed", "Secret", false},
+                 {"zed", QString(), false}};
+    for (const auto& c : cases) {
+        SCOPED_TRACE(std::string(c.id) + " " + c.password.toStdString());
+        const cUser user = cSecurityService(dbPath).GetUser(c.id, c.password, "ann");
+        EXPECT_EQ(user.IsStored(), c.found);
+        EXPECT_EQ(user.UserId(), c.found ? "ann" : "Q70707");
+        EXPECT_EQ(user.Password(), c.found ? "Secret" : "");
+        EXPECT_EQ(user.FirstName(), c.found ? "First ann" : "");
+        EXPECT_EQ(user.Question(), c.found ? "Pet?" : "");
+        EXPECT_EQ(user.Answer(), c.found ? "Rex" : "");
+        EXPECT_EQ(user.AccessLevel(), c.found ? 2 : 0);
+    }
 }
 
 TEST_F(Security, FirstUserIsMadeFromTheMarkerRecord) {
@@ -57,25 +47,15 @@ TEST_F(Security, FirstUserIsMadeFromTheMarkerRecord) {
 
     // The window then saves a second new record of the same id with the level it offered; the
     // user is written over, and his own level stays.
-    cUser again(dbPath);
-    again.BeginEdit(0);
-    again.UserId(QStringLiteral("boss"));
-    again.Password(QStringLiteral("pw"));
-    again.FirstName(QStringLiteral("Big"));
-    again.LastName(QStringLiteral("Boss"));
-    again.AccessLevel(3);
-    again.Question(QStringLiteral("Q"));
-    again.Answer(QStringLiteral("A"));
-    again.Save(QStringLiteral("boss"), 0);
-
+    addUser(QStringLiteral("boss"), QStringLiteral("pw"), 3);
     const auto users = security.GetUsers();
     ASSERT_EQ(users.UBound(), 1);
     EXPECT_EQ(users(1).UserId, QStringLiteral("boss"));
-    EXPECT_EQ(users(1).FirstName, QStringLiteral("Big"));
-    EXPECT_EQ(users(1).LastName, QStringLiteral("Boss"));
+    EXPECT_EQ(users(1).FirstName, QStringLiteral("First boss"));
+    EXPECT_EQ(users(1).LastName, QStringLiteral("Last boss"));
     const cUser stored = security.GetUser(QStringLiteral("boss"), QStringLiteral("pw"), "");
     EXPECT_EQ(stored.AccessLevel(), 1);
-    EXPECT_EQ(stored.Question(), QStringLiteral("Q"));
+    EXPECT_EQ(stored.Question(), QStringLiteral("Pet?"));
 }
 
 TEST_F(Security, MarkerRecordSavedOverAStoredUserKeepsWhatItDidNotSet) {

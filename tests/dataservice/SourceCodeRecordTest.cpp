@@ -37,26 +37,20 @@ TEST_F(SourceCodeRecord, SaveWritesEveryFieldAndGetSourceCodeReadsThemBack) {
     EXPECT_FALSE(back.IsFolder());
 }
 
-TEST_F(SourceCodeRecord, NothingIsWrittenBeforeSave) {
+TEST_F(SourceCodeRecord, SaveWithoutBeginEditIsRefusedAndNothingIsWrittenBeforeSave) {
     const int id = addCode(QStringLiteral("Before"));
-    cLibraryService library(dbPath);
-    cSourceCode item = library.GetSourceCode(id);
+    cSourceCode item = cLibraryService(dbPath).GetSourceCode(id);
+    item.Description(QStringLiteral("Changed"));
+    const QsError e = Raised([&] { item.Save(); });
+    EXPECT_EQ(e.number(), kErrReadOnly);
+    EXPECT_EQ(e.description(), QStringLiteral("Object is read-only."));
+
     item.BeginEdit(0);
     item.Description(QStringLiteral("After"));
     item.Revisions().Add(0).Version(QStringLiteral("1.1.0"));
     const cSourceCode stored = cLibraryService(dbPath).GetSourceCode(id);
     EXPECT_EQ(stored.Description(), QStringLiteral("Before"));
     EXPECT_EQ(stored.Revisions().Count(), 0);
-}
-
-TEST_F(SourceCodeRecord, SaveWithoutBeginEditIsRefusedAsReadOnly) {
-    const int id = addCode(QStringLiteral("Kept"));
-    cSourceCode item = cLibraryService(dbPath).GetSourceCode(id);
-    item.Description(QStringLiteral("Changed"));
-    const QsError e = Raised([&] { item.Save(); });
-    EXPECT_EQ(e.number(), kErrReadOnly);
-    EXPECT_EQ(e.description(), QStringLiteral("Object is read-only."));
-    EXPECT_EQ(cLibraryService(dbPath).GetSourceCode(id).Description(), QStringLiteral("Kept"));
 }
 
 TEST_F(SourceCodeRecord, RevisionsKeepTheirEntryOrderAcrossSaves) {
@@ -92,16 +86,11 @@ TEST_F(SourceCodeRecord, RevisionsKeepTheirEntryOrderAcrossSaves) {
     EXPECT_EQ(back.Revisions().Item(3).DateRevised(), QDateTime(QDate(2020, 1, 8), QTime(12, 0)));
 }
 
-TEST_F(SourceCodeRecord, RevisionItemOutsideTheListRaisesSubscriptOutOfRange) {
-    cSourceCode item(dbPath);
-    item.Revisions().Add(0);
-    EXPECT_EQ(Raised([&] { item.Revisions().Item(0); }).number(), 9);
-    EXPECT_EQ(Raised([&] { item.Revisions().Item(2); }).number(), 9);
-}
-
-TEST_F(SourceCodeRecord, StoredRevisionLineIsReadOnly) {
+TEST_F(SourceCodeRecord, RevisionLineOutsideTheListRaisesAndAStoredOneIsReadOnly) {
     cSourceCode item = newCode();
     item.Revisions().Add(0).Version(QStringLiteral("1.0.0"));
+    EXPECT_EQ(Raised([&] { item.Revisions().Item(0); }).number(), 9);
+    EXPECT_EQ(Raised([&] { item.Revisions().Item(2); }).number(), 9);
     const int id = item.Save();
     cSourceCode back = cLibraryService(dbPath).GetSourceCode(id);
     EXPECT_EQ(Raised([&] { back.Revisions().Item(1).Comment(QStringLiteral("rewrite")); }).number(),
@@ -131,19 +120,6 @@ TEST_F(SourceCodeRecord, NewItemWithoutCategoryOrTypeIsRefused) {
     EXPECT_EQ(Raised([&] { item.Save(); }).number(), kErrMissingParameters);
     item.CodeTypeId(101); // a file type is no code type
     EXPECT_EQ(Raised([&] { item.Save(); }).number(), kErrMissingParameters);
-}
-
-TEST_F(SourceCodeRecord, RecordStaysUsableAfterItsServiceIsGone) {
-    const int id = addCode(QStringLiteral("Orphan"));
-    cSourceCode item = [&] {
-        cLibraryService library(dbPath);
-        return library.GetSourceCode(id);
-    }();
-    item.BeginEdit(0);
-    item.Description(QStringLiteral("Still saves"));
-    item.Save();
-    EXPECT_EQ(cLibraryService(dbPath).GetSourceCode(id).Description(),
-              QStringLiteral("Still saves"));
 }
 
 TEST_F(SourceCodeRecord, DeleteRemovesRevisionsAndBookmarks) {
@@ -225,29 +201,4 @@ TEST_F(SourceCodeRecord, UpdateOfARowAnotherUserDeletedRaisesNotFound) {
     mine.Revisions().Add(0);
     EXPECT_EQ(Raised([&] { mine.Save(); }).number(), kErrRecordNotFound);
     EXPECT_EQ(rows(QStringLiteral("RevHist_SrcCode")), 0);
-}
-
-TEST_F(SourceCodeRecord, SearchIndexFollowsInsertUpdateAndDelete) {
-    const int id = addCode(QStringLiteral("Quicksort"));
-    RawDb raw(dbPath);
-    const QString hits = QStringLiteral(
-        "SELECT group_concat(rowid) FROM SourceCodeSearch WHERE SourceCodeSearch MATCH '%1*'");
-    EXPECT_EQ(raw.value(hits.arg("quicksort")).toInt(), id);
-
-    cSourceCode item = cLibraryService(dbPath).GetSourceCode(id);
-    item.BeginEdit(0);
-    item.Notes(QStringLiteral("Straße und Ångström"));
-    item.Description(QStringLiteral("Mergesort"));
-    item.Code(QString());
-    item.Save();
-    EXPECT_TRUE(raw.value(hits.arg("quicksort")).isNull());
-    EXPECT_EQ(raw.value(hits.arg("mergesort")).toInt(), id);
-    EXPECT_EQ(raw.value(hits.arg("straße")).toInt(), id);
-    EXPECT_TRUE(raw.value(hits.arg("angstrom")).isNull()); // diacritics are kept
-
-    DeleteRecord(item);
-    EXPECT_TRUE(raw.value(hits.arg("mergesort")).isNull());
-    // The index agrees with the rows it was built from.
-    EXPECT_TRUE(raw.exec(QStringLiteral(
-        "INSERT INTO SourceCodeSearch (SourceCodeSearch, rank) VALUES ('integrity-check', 1)")));
 }

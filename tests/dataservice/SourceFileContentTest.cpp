@@ -3,7 +3,6 @@
 #include "ServiceErrors.h"
 #include "cFileInfo.h"
 
-#include <QCryptographicHash>
 #include <QFile>
 #include <QRandomGenerator>
 
@@ -34,15 +33,6 @@ QString writeBytes(const QString& path, qint64 size, quint32 seed) {
         done += n;
     }
     return path;
-}
-
-QByteArray streamHash(const QString& path) {
-    QFile f(path);
-    if (!f.open(QIODevice::ReadOnly))
-        return {};
-    QCryptographicHash hash(QCryptographicHash::Sha256);
-    hash.addData(&f);
-    return hash.result();
 }
 
 // Peak resident memory of this process in KiB, read from the kernel.
@@ -77,40 +67,38 @@ protected:
 
 } // namespace
 
-TEST_F(SourceFileContent, StoredBytesComeBackIdentical) {
-    const QString in = writeBytes(home->file("component.ocx"), 2 * 1024 * 1024 + 4321, 1);
-    const int id = store(in);
-    EXPECT_EQ(chunkRows(id), 3);
-    const QString out = home->file("copy.ocx");
-    cLibraryService(dbPath).GetSourceFile(id).SaveToDisk(out);
-    EXPECT_EQ(QFileInfo(out).size(), QFileInfo(in).size());
-    EXPECT_EQ(streamHash(out), streamHash(in));
-}
-
-TEST_F(SourceFileContent, EmptyAndOddlyNamedFilesRoundTrip) {
-    const QString empty = writeBytes(home->file("empty file"), 0, 2);
-    const int emptyId = store(empty);
-    EXPECT_EQ(chunkRows(emptyId), 0);
-    cLibraryService(dbPath).GetSourceFile(emptyId).SaveToDisk(home->file("empty out"));
-    EXPECT_TRUE(QFileInfo::exists(home->file("empty out")));
-    EXPECT_EQ(QFileInfo(home->file("empty out")).size(), 0);
-
-    const QString odd = writeBytes(home->file(QString::fromUtf8("\xc3\xbc ber sicht.bin")), 999, 3);
-    const int oddId = store(odd);
-    const cSourceFile back = cLibraryService(dbPath).GetSourceFile(oddId);
-    EXPECT_EQ(back.File().FileName(), QString::fromUtf8("\xc3\xbc ber sicht.bin"));
-    const QString out = home->file(QString::fromUtf8("zur\xc3\xbc"
-                                                     "ck.bin"));
-    back.SaveToDisk(out);
-    EXPECT_EQ(streamHash(out), streamHash(odd));
+// Bytes of every value, in chunks of 1 MiB; no chunk for an empty file.
+TEST_F(SourceFileContent, StoredBytesComeBackIdenticalUnderTheirOwnName) {
+    const struct {
+        QString name;
+        qint64 size;
+        int chunks;
+    } cases[] = {
+        {"component.ocx", 2 * 1024 * 1024 + 4321, 3},
+        {"empty file", 0, 0},
+        {QString::fromUtf8("\xc3\xbc ber sicht.bin"), 999, 1},
+    };
+    quint32 seed = 0;
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.name.toStdString());
+        const QString in = writeBytes(home->file(c.name), c.size, ++seed);
+        const int id = store(in);
+        EXPECT_EQ(chunkRows(id), c.chunks);
+        const cSourceFile back = cLibraryService(dbPath).GetSourceFile(id);
+        EXPECT_EQ(back.File().FileName(), c.name);
+        const QString out = home->file(QString::fromUtf8("zur\xc3\xbc"
+                                                         "ck ") +
+                                       c.name);
+        back.SaveToDisk(out);
+        EXPECT_EQ(QFileInfo(out).size(), c.size);
+        EXPECT_EQ(FileHash(out), FileHash(in));
+    }
 }
 
 TEST_F(SourceFileContent, FactsAreReadBackWithTheRecord) {
-    const QString exe = home->file("Setup Helper.exe");
-    QFile f(exe);
-    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-    f.write(PeImageBuilder::WithStrings({{"FileVersion", "3.2.1"}, {"CompanyName", "Tarnwick"}}));
-    f.close();
+    const QString exe = WriteFile(
+        home->file("Setup Helper.exe"),
+        PeImageBuilder::WithStrings({{"FileVersion", "3.2.1"}, {"CompanyName", "Tarnwick"}}));
     const cFileInfo captured = cFileInfo::Capture(exe);
     const int id = store(exe, QStringLiteral("Setup helper"));
     const cSourceFile back = cLibraryService(dbPath).GetSourceFile(id);
@@ -126,6 +114,7 @@ TEST_F(SourceFileContent, FactsAreReadBackWithTheRecord) {
     ASSERT_TRUE(info.VersionInfo().HasVersionInfo());
     EXPECT_EQ(info.VersionInfo().FileVersion(), "3.2.1");
     EXPECT_EQ(info.VersionInfo().EntryValue(0), "Tarnwick");
+    EXPECT_TRUE(info.VersionInfo() == captured.VersionInfo());
     EXPECT_EQ(cSourceFile::FormatSize(info.Size()), cFileInfo::FormatSize(info.Size()));
 }
 
@@ -143,7 +132,7 @@ TEST_F(SourceFileContent, UpdateFileReplacesBytesAndFacts) {
     EXPECT_EQ(back.File().FileName(), "second.txt");
     EXPECT_EQ(back.File().Size(), 10);
     back.SaveToDisk(home->file("out.txt"));
-    EXPECT_EQ(streamHash(home->file("out.txt")), streamHash(second));
+    EXPECT_EQ(FileHash(home->file("out.txt")), FileHash(second));
 }
 
 TEST_F(SourceFileContent, SaveWithoutANewFileKeepsTheStoredBytes) {
@@ -155,7 +144,7 @@ TEST_F(SourceFileContent, SaveWithoutANewFileKeepsTheStoredBytes) {
     item.Save();
     EXPECT_EQ(chunkRows(id), 1);
     cLibraryService(dbPath).GetSourceFile(id).SaveToDisk(home->file("kept.bin"));
-    EXPECT_EQ(streamHash(home->file("kept.bin")), streamHash(in));
+    EXPECT_EQ(FileHash(home->file("kept.bin")), FileHash(in));
 }
 
 TEST_F(SourceFileContent, MissingFileRaisesFileNotFoundFromLoadFile) {
@@ -195,11 +184,11 @@ TEST_F(SourceFileContent, SaveToDiskNeedsAStoredRecordAndLeavesNoHalfFile) {
     const int id = store(home->file("a.bin"));
     RawDb(dbPath).exec(QStringLiteral("DELETE FROM SourceFileChunk"));
     const QString target = writeBytes(home->file("target.bin"), 33, 10);
-    const QByteArray before = streamHash(target);
+    const QByteArray before = FileHash(target);
     EXPECT_EQ(
         Raised([&] { cLibraryService(dbPath).GetSourceFile(id).SaveToDisk(target); }).number(),
         kErrStorage);
-    EXPECT_EQ(streamHash(target), before);
+    EXPECT_EQ(FileHash(target), before);
 }
 
 // A large file goes in and out in chunks: the peak memory of the whole trip stays far below the
@@ -225,5 +214,5 @@ TEST_F(SourceFileContent, LargeFileNeverSitsInMemoryWhole) {
     EXPECT_LT((peak - rssBefore) * 1024, kSize / 2)
         << "peak grew by " << (peak - rssBefore) << " KiB";
     EXPECT_EQ(QFileInfo(home->file("large out.bin")).size(), kSize);
-    EXPECT_EQ(streamHash(home->file("large out.bin")), streamHash(in));
+    EXPECT_EQ(FileHash(home->file("large out.bin")), FileHash(in));
 }
