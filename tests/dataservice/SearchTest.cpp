@@ -381,8 +381,16 @@ TEST_F(SearchTest, EverySaveIsSeenByTheNextSearch) {
     EXPECT_EQ(ids(1, QStringLiteral("mergesort")), QList<int>{id});
     EXPECT_EQ(ids(0, QStringLiteral("renamed %")), QList<int>{id});
 
+    // A save of the description alone reaches the index too.
+    record = cLibraryService(dbPath).GetSourceCode(id);
+    record.BeginEdit(0);
+    record.Description(QStringLiteral("Quicksort"));
+    record.Save();
+    EXPECT_EQ(ids(1, QStringLiteral("mergesort")), QList<int>{});
+    EXPECT_EQ(ids(1, QStringLiteral("quicksort")), QList<int>{id});
+
     test::DeleteRecord(record);
-    EXPECT_EQ(ids(1, QStringLiteral("newname mergesort")), QList<int>{});
+    EXPECT_EQ(ids(1, QStringLiteral("newname quicksort")), QList<int>{});
     EXPECT_EQ(ids(0, QStringLiteral("renamed %")), QList<int>{});
 }
 
