@@ -7,11 +7,9 @@
 #include "frmDatabase.h"
 #include "frmLogin.h"
 #include "frmUser.h"
-#include "mRegConstants.h"
-#include "mRegistry.h"
+#include "quillstone_private.h"
 
 #include <QFileInfo>
-#include <QGroupBox>
 #include <QPushButton>
 #include <QRadioButton>
 
@@ -31,15 +29,6 @@ protected:
     frmDatabase& dialog() { return Forms::get<frmDatabase>(); }
     QString missing;
 };
-
-TEST_F(DatabaseDialog, ShowsItsFrameOptionsAndButtons) {
-    EXPECT_EQ(dialog().Caption(), QStringLiteral("Database"));
-    EXPECT_EQ(dialog().frmeDatabase->title(), QStringLiteral("Database Is Missing"));
-    EXPECT_EQ(dialog().optNew->text(), QStringLiteral("Create New Database"));
-    EXPECT_EQ(dialog().optSearch->text(), QStringLiteral("Search For Database"));
-    EXPECT_EQ(dialog().cmdCancel->text(), QStringLiteral("Cancel"));
-    EXPECT_EQ(dialog().cmdHelp->text(), QStringLiteral("Help"));
-}
 
 TEST_F(DatabaseDialog, CancellingTheFileDialogLeavesTheDialogOpenAndTheRegistryUnchanged) {
     dialog().optSearch->setChecked(true);
@@ -90,43 +79,36 @@ TEST_F(DatabaseDialog, NewDatabaseRefusesANameOfAnotherKind) {
     EXPECT_NE(Forms::find<frmDatabase>(), nullptr);
 }
 
-TEST_F(DatabaseDialog, NewDatabaseWithoutExtensionIsMadeAsMdbWithItsFirstUser) {
-    const QString path = libraryPath(QStringLiteral("data"));
-    hostScript.answerFileDialog(path);
-    hostScript.expectMsgBox(QStringLiteral("Please add the first user"));
+// A name without the ending gets it; an upper-case ending passes unchanged.
+TEST_F(DatabaseDialog, NewDatabaseIsMadeAsMdbWithItsFirstUserAndTheLoginFollows) {
     bool addModeOnShow = false;
-    hostScript.onModal<frmUser>(QStringLiteral("frmUser"), [&](frmUser& user) {
+    hostScript.onModal<frmUser>("frmUser", [&](frmUser& user) {
         addModeOnShow = user.Mode() == frmUser::ModeAdd;
-        makeFirstUser(user, QStringLiteral("ada"), QStringLiteral("secret"));
+        makeFirstUser(user, "ada", "secret");
     });
-    dialog().cmdOK->click();
+    for (const auto& [typed, made] : {std::pair("data", "data.mdb"), {"DATA.MDB", "DATA.MDB"}}) {
+        SCOPED_TRACE(typed);
+        UnloadAllForms(QString());
+        dialog().Show();
+        hostScript.clearCalls();
+        addModeOnShow = false;
+        hostScript.answerFileDialog(libraryPath(typed));
+        hostScript.expectMsgBox("Please add the first user");
+        dialog().cmdOK->click();
 
-    EXPECT_TRUE(addModeOnShow);
-    EXPECT_TRUE(QFileInfo::exists(path + QStringLiteral(".mdb")));
-    EXPECT_EQ(registryFileName(), QStringLiteral("data.mdb"));
-    EXPECT_TRUE(gblnFirstUser);
-    EXPECT_TRUE(canLogIn(QStringLiteral("ada"), QStringLiteral("secret")));
-    EXPECT_EQ(Forms::find<frmDatabase>(), nullptr);
-    frmLogin* login = Forms::find<frmLogin>();
-    ASSERT_NE(login, nullptr);
-    EXPECT_EQ(login->Caption(), QStringLiteral("Login To Database You Selected"));
-    EXPECT_EQ(
-        windowOrder(),
-        QStringList({QStringLiteral("FileSave: Please select path and enter new database name."),
-                     QStringLiteral("MsgBox: Please add the first user"),
-                     QStringLiteral("Modal: frmUser")}));
-}
-
-TEST_F(DatabaseDialog, UpperCaseMdbNamePassesUnchanged) {
-    const QString path = libraryPath(QStringLiteral("DATA.MDB"));
-    hostScript.answerFileDialog(path);
-    hostScript.expectMsgBox(QStringLiteral("Please add the first user"));
-    hostScript.onModal<frmUser>(QStringLiteral("frmUser"), [](frmUser& user) {
-        makeFirstUser(user, QStringLiteral("ada"), QStringLiteral("secret"));
-    });
-    dialog().cmdOK->click();
-    EXPECT_EQ(registryFileName(), QStringLiteral("DATA.MDB"));
-    EXPECT_TRUE(QFileInfo::exists(path));
+        EXPECT_TRUE(addModeOnShow);
+        EXPECT_TRUE(QFileInfo::exists(libraryPath(made)));
+        EXPECT_EQ(registryFileName(), made);
+        EXPECT_TRUE(gblnFirstUser);
+        EXPECT_TRUE(canLogIn("ada", "secret"));
+        EXPECT_EQ(Forms::find<frmDatabase>(), nullptr);
+        frmLogin* login = Forms::find<frmLogin>();
+        ASSERT_NE(login, nullptr);
+        EXPECT_EQ(login->Caption(), "Login To Database You Selected");
+        EXPECT_EQ(windowOrder(),
+                  QStringList({"FileSave: Please select path and enter new database name.",
+                               "MsgBox: Please add the first user", "Modal: frmUser"}));
+    }
 }
 
 TEST_F(DatabaseDialog, NewDatabaseOnAnExistingFileIsRefusedThoughTheRegistryNamesIt) {
@@ -180,15 +162,5 @@ TEST_P(DatabaseDialogLeft, AnsweredYesEndsTheProgram) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Ways, DatabaseDialogLeft, everyWay(), WayName());
-
-TEST_F(DatabaseDialog, HelpOpensItsTopic) {
-    SaveRegSetting(QString::fromLatin1(REG_KEY_HELPFILES), QStringLiteral("FilePath"),
-                   home->file(QStringLiteral("Help")));
-    dialog().cmdHelp->click();
-    const QList<HostCall> help = hostScript.callsOf(QStringLiteral("Help"));
-    ASSERT_EQ(help.size(), 1);
-    EXPECT_EQ(help.first().text, QStringLiteral("1550"));
-    EXPECT_EQ(help.first().flags, 1);
-}
 
 } // namespace

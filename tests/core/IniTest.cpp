@@ -33,50 +33,46 @@ protected:
 
 } // namespace
 
-TEST_F(Ini, UserIdWithBlanksAroundItComesBackTrimmed) {
-    writeFile("[AppSettings]\r\n  UserId  =   jsmith   \r\nRememberPass=\tsecret\t\r\n");
-    EXPECT_EQ(File_GetSpecificKeySetting_FromSpecificFile(mFile, "AppSettings", "UserId"),
-              "jsmith");
-    EXPECT_EQ(File_GetSpecificKeySetting_FromSpecificFile(mFile, "AppSettings", "RememberPass"),
-              "secret");
+// Every read goes through one lookup: the file, the entry asked for and what comes back.
+TEST_F(Ini, ReadsFindTheEntryOfItsOwnSection) {
+    const struct {
+        const char* file;
+        const char* section;
+        const char* key;
+        const char* value;
+    } rows[] = {
+        {"[AppSettings]\r\n  UserId  =   jsmith   \r\n", "AppSettings", "UserId", "jsmith"},
+        {"[AppSettings]\r\nRememberPass=\tsecret\t\r\n", "AppSettings", "RememberPass", "secret"},
+        // Names match without regard to case or blanks inside the brackets.
+        {"[ appsettings ]\nUSERID=abc\n", "AppSettings", "UserId", "abc"},
+        {"[ appsettings ]\nUSERID=abc\n", "APPSETTINGS", "userid", "abc"},
+        // Matching quotes around a value are removed, others kept.
+        {"[S]\nA=\"  quoted  \"\n", "S", "A", "  quoted  "},
+        {"[S]\nB='single'\n", "S", "B", "single"},
+        {"[S]\nC=\"unbalanced\n", "S", "C", "\"unbalanced"},
+        {"[S]\nD=\"mixed'\n", "S", "D", "\"mixed'"},
+        {"[S]\nE=\"\n", "S", "E", "\""},
+        {"[Other]\nUserId=x\n[AppSettings]\nName=y\n", "AppSettings", "UserId", ""},
+        {"[Other]\nUserId=x\n[AppSettings]\nName=y\n", "Missing", "Name", ""},
+        {"[A]\nk=1\n[B]\nother=2\n", "B", "k", ""},
+        {"[A]\nk=1\n[B]\nother=2\n", "A", "other", ""},
+        // A comment line is no entry; a semicolon inside a value is no comment.
+        {"[S]\n;UserId=commented\nUserId=real ; not a comment\n", "S", "UserId",
+         "real ; not a comment"},
+        {"[S]\n;UserId=commented\nUserId=real ; not a comment\n", "S", ";UserId", ""},
+    };
+    for (const auto& row : rows) {
+        writeFile(row.file);
+        EXPECT_EQ(iniGetKeyValue(row.section, row.key, mFile, false, false).toString(), row.value)
+            << row.file << " " << row.section << "/" << row.key;
+    }
 }
 
-TEST_F(Ini, SectionAndKeyNamesMatchWithoutRegardToCase) {
-    writeFile("[ appsettings ]\nUSERID=abc\n");
-    EXPECT_EQ(File_GetSpecificKeySetting_FromSpecificFile(mFile, "AppSettings", "UserId"), "abc");
-    EXPECT_EQ(iniGetKeyValue("APPSETTINGS", "userid", mFile, false, false).toString(), "abc");
-}
-
-TEST_F(Ini, MatchingQuotesAroundAValueAreRemoved) {
-    writeFile("[S]\nA=\"  quoted  \"\nB='single'\nC=\"unbalanced\nD=\"mixed'\nE=\"\n");
-    EXPECT_EQ(ProfileGetString("S", "A", QString(), 256, mFile), "  quoted  ");
-    EXPECT_EQ(ProfileGetString("S", "B", QString(), 256, mFile), "single");
-    EXPECT_EQ(ProfileGetString("S", "C", QString(), 256, mFile), "\"unbalanced");
-    EXPECT_EQ(ProfileGetString("S", "D", QString(), 256, mFile), "\"mixed'");
-    EXPECT_EQ(ProfileGetString("S", "E", QString(), 256, mFile), "\"");
-}
-
-TEST_F(Ini, MissingFileSectionOrKeyGivesEmptyWithoutAMessage) {
+TEST_F(Ini, MissingFileGivesEmptyOrTheDefaultWithoutAMessageOrAFile) {
     EXPECT_EQ(File_GetSpecificKeySetting_FromSpecificFile(mFile, "AppSettings", "UserId"), "");
-    writeFile("[Other]\nUserId=x\n[AppSettings]\nName=y\n");
-    EXPECT_EQ(File_GetSpecificKeySetting_FromSpecificFile(mFile, "AppSettings", "UserId"), "");
-    EXPECT_EQ(File_GetSpecificKeySetting_FromSpecificFile(mFile, "Missing", "Name"), "");
     EXPECT_EQ(ProfileGetString("Missing", "Name", "fallback", 256, mFile), "fallback");
     EXPECT_TRUE(hostScript.msgBoxes().isEmpty());
-    EXPECT_FALSE(QFile::exists(home->file("Missing.ini")));
-}
-
-TEST_F(Ini, KeysOfOneSectionDoNotLeakIntoTheNext) {
-    writeFile("[A]\nk=1\n[B]\nother=2\n");
-    EXPECT_EQ(iniGetKeyValue("B", "k", mFile, false, false).toString(), "");
-    EXPECT_EQ(iniGetKeyValue("A", "other", mFile, false, false).toString(), "");
-}
-
-TEST_F(Ini, CommentLinesAreNotEntries) {
-    writeFile("[S]\n;UserId=commented\nUserId=real ; not a comment\n");
-    EXPECT_EQ(iniGetKeyValue("S", "UserId", mFile, false, false).toString(),
-              "real ; not a comment");
-    EXPECT_EQ(iniGetKeyValue("S", ";UserId", mFile, false, false).toString(), "");
+    EXPECT_FALSE(QFile::exists(mFile));
 }
 
 TEST_F(Ini, ReadsSetThePointerBackToNormal) {

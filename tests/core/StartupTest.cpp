@@ -292,12 +292,6 @@ TEST_F(FillCombo, WithoutClearingTheSecondTableFollowsTheFirst) {
     EXPECT_EQ(combo.ItemData(5), 204);
 }
 
-TEST_F(FillCombo, UsersReadFirstLastAndTheIdInBrackets) {
-    addUser(QStringLiteral("ada"), QStringLiteral("secret"));
-    FillComboBox(QStringLiteral("Users"), &combo);
-    EXPECT_EQ(entries(combo), QStringList({QStringLiteral("Ada Byron  (ada)")}));
-}
-
 TEST_F(FillCombo, AuthorsCarryTheirIds) {
     cAuthor author;
     author.BeginEdit(0);

@@ -100,7 +100,7 @@ TEST_F(FileExport, EachKindWritesTheDialogsTextToAFileItsReaderGivesBack) {
         EXPECT_EQ(shell[0].text, path);
         const QString back = readBack(kind, path);
         if (QLatin1String(kind.name) == QLatin1String("PDF")) {
-            EXPECT_TRUE(folded(back).contains(folded(text))) << back.toStdString();
+            EXPECT_TRUE(back.simplified().contains(text.simplified())) << back.toStdString();
         } else if (QLatin1String(kind.name) == QLatin1String("text")) {
             // CR LF throughout, and "?" for the letter the code page lacks.
             EXPECT_EQ(fileBytes(path), ToCp1252(text));

@@ -157,16 +157,8 @@ QByteArray fileBytes(const QString& path) {
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-QString folded(const QString& text) {
-    return text.simplified();
-}
-
 QString unspaced(const QString& text) {
-    QString out;
-    for (const QChar c : text)
-        if (!c.isSpace())
-            out += c;
-    return out;
+    return text.simplified().remove(QLatin1Char(' '));
 }
 
 } // namespace qs::test

@@ -64,8 +64,7 @@ QByteArray runTool(const QString& program, const QStringList& args, int* exitCod
 // The text of a PDF by pdftotext.
 QString pdfText(const QString& path);
 QByteArray fileBytes(const QString& path);
-// Blanks, tabs, line ends and no-break spaces folded to single blanks, or left out.
-QString folded(const QString& text);
+// The text without blanks, tabs, line ends and no-break spaces.
 QString unspaced(const QString& text);
 
 } // namespace qs::test
