@@ -1,5 +1,5 @@
-#include "HostFixture.h"
 #include "PeImageBuilder.h"
+#include "TreeWindowFixture.h"
 
 #include "Globals.h"
 #include "ListBox.h"
@@ -12,13 +12,10 @@
 #include "cAuthor.h"
 #include "cLibraryService.h"
 #include "frmMain.h"
-#include "mRegConstants.h"
-#include "mRegistry.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QFile>
-#include <QFileInfo>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
@@ -55,14 +52,6 @@ const Family kFamilies[] = {
      &frmMain::lstSrcFileRevHist},
 };
 
-void pointAt(const QString& path) {
-    const QFileInfo file(path);
-    SaveRegSetting(QString::fromLatin1(REG_KEY_DATABASE),
-                   QString::fromLatin1(REG_VAL_DATABASE_PATH), file.absolutePath());
-    SaveRegSetting(QString::fromLatin1(REG_KEY_DATABASE),
-                   QString::fromLatin1(REG_VAL_DATABASE_FILENAME), file.fileName());
-}
-
 // The rows of a list in display order, as "date version, ...".
 std::string rows(const ListView* list) {
     QStringList out;
@@ -94,15 +83,10 @@ void clickHeader(ListView* list, int column) {
                header->height() / 2));
 }
 
-class ItemPanes : public HostFixture {
+class ItemPanes : public TreeWindow {
 protected:
     void SetUp() override {
-        HostFixture::SetUp();
-        addGlobalReset("core", [] { ResetGlobals(); });
-        mDatabase = home->file(QStringLiteral("Libraries/Quillstone.mdb"));
-        cLibraryService(mDatabase).CreateDatabase(mDatabase, QString());
-        pointAt(mDatabase);
-        gstrUserId = QStringLiteral("ada");
+        TreeWindow::SetUp();
         gstrAccessType = QStringLiteral("Admin");
         mAuthors[0] = addAuthor(QStringLiteral("Ada"), QStringLiteral("Lovelace"));
         mAuthors[1] = addAuthor(QStringLiteral("Tom"), QStringLiteral("Kell"));
@@ -155,7 +139,6 @@ protected:
         return item.Save();
     }
 
-    QString mDatabase;
     int mAuthors[2] = {};
 };
 

@@ -24,12 +24,14 @@ void TreeWindow::SetUp() {
     addGlobalReset("core", [] { ResetGlobals(); });
     mDatabase = home->file(QStringLiteral("Libraries/Quillstone.mdb"));
     cLibraryService(mDatabase).CreateDatabase(mDatabase, QString());
-    const QString key = QString::fromLatin1(REG_KEY_DATABASE);
-    SaveRegSetting(key, QString::fromLatin1(REG_VAL_DATABASE_PATH),
-                   QFileInfo(mDatabase).absolutePath());
-    SaveRegSetting(key, QString::fromLatin1(REG_VAL_DATABASE_FILENAME),
-                   QFileInfo(mDatabase).fileName());
+    pointAt(mDatabase);
     gstrUserId = QStringLiteral("ada");
+}
+
+void TreeWindow::pointAt(const QString& path) {
+    const QString key = QString::fromLatin1(REG_KEY_DATABASE);
+    SaveRegSetting(key, QString::fromLatin1(REG_VAL_DATABASE_PATH), QFileInfo(path).absolutePath());
+    SaveRegSetting(key, QString::fromLatin1(REG_VAL_DATABASE_FILENAME), QFileInfo(path).fileName());
 }
 
 int TreeWindow::addCode(const QString& description, int typeId, int tested, int parentId,

@@ -18,6 +18,8 @@ class TreeWindow : public HostFixture {
 public:
     // The keys of the children of a node, in the order shown.
     static QStringList childKeys(TreeView& tree, const QString& key);
+    // Names that library in the settings, as the login does.
+    static void pointAt(const QString& path);
 
 protected:
     void SetUp() override;
