@@ -2,19 +2,9 @@
 
 #include "TreeWindowFixture.h"
 
-#include "ComboBox.h"
-#include "Globals.h"
 #include "NodeKeys.h"
-#include "RichTextBox.h"
-#include "SSTab.h"
-#include "TreeView.h"
 #include "cLibraryService.h"
 #include "cSourceCode.h"
-#include "frmMain.h"
-
-#include <QLabel>
-#include <QLineEdit>
-#include <QTest>
 
 using namespace qs;
 using namespace qs::test;

@@ -1,28 +1,18 @@
 #include "PeImageBuilder.h"
 #include "TreeWindowFixture.h"
 
-#include "Globals.h"
 #include "ListBox.h"
 #include "ListView.h"
-#include "RichTextBox.h"
-#include "SSTab.h"
 #include "ServiceErrors.h"
-#include "Toolbar.h"
-#include "TreeView.h"
 #include "cAuthor.h"
 #include "cLibraryService.h"
-#include "frmMain.h"
 
-#include <QAction>
 #include <QApplication>
 #include <QFile>
 #include <QHeaderView>
-#include <QLabel>
-#include <QLineEdit>
 #include <QMenu>
 #include <QPlainTextEdit>
 #include <QTabBar>
-#include <QTest>
 
 using namespace qs;
 using namespace qs::test;
@@ -132,8 +122,6 @@ protected:
         item.CodeTypeId(201);
         item.Description(QStringLiteral("Split words"));
         item.Code(QStringLiteral("Public Sub Split()\r\nEnd Sub"));
-        item.Notes(QStringLiteral("Splits at blanks."));
-        item.Example(QStringLiteral("Split \"a b\""));
         item.AuthorId(mAuthors[0]);
         addLines(item, lines);
         return item.Save();
@@ -309,6 +297,7 @@ TEST_F(ItemPanes, RecordAnotherUserDeletedLeavesEmptyPanesWithoutAReport) {
         EXPECT_EQ((family.file ? form.txtFilename : form.txtVersionNo)->text(), QString());
         EXPECT_EQ((family.file ? form.txtSFRevHistAuthor : form.txtRevisionAuthorSC)->text(),
                   QString());
+        EXPECT_TRUE(family.file || form.RichTextBoxCode->Text().isEmpty());
     }
     EXPECT_TRUE(hostScript.msgBoxes().isEmpty()) << hostScript.log().toStdString();
 

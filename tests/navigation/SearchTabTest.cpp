@@ -3,24 +3,12 @@
 
 #include "TreeWindowFixture.h"
 
-#include "ComboBox.h"
 #include "FormBase.h"
-#include "Globals.h"
-#include "RichTextBox.h"
-#include "SSTab.h"
-#include "Toolbar.h"
-#include "TreeView.h"
 #include "frmLogin.h"
-#include "frmMain.h"
 #include "mRegConstants.h"
 #include "mRegistry.h"
 
-#include <QAction>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
 #include <QRadioButton>
-#include <QTest>
 
 using namespace qs;
 using namespace qs::test;

@@ -1,20 +1,15 @@
 #include "TreeWindowFixture.h"
 
-#include "FormBase.h"
-#include "Globals.h"
-#include "TreeView.h"
 #include "cLibraryService.h"
 #include "cSecurityService.h"
 #include "cSourceCode.h"
 #include "cSourceFile.h"
 #include "cUser.h"
-#include "frmMain.h"
 #include "mRegConstants.h"
 #include "mRegistry.h"
 
 #include <QApplication>
 #include <QFileInfo>
-#include <QTest>
 #include <QTreeWidgetItemIterator>
 
 namespace qs::test {
@@ -103,6 +98,22 @@ void TreeWindow::click(TreeView& tree, const QString& key, Qt::MouseButton butto
 void TreeWindow::press(TreeView& tree, Qt::Key key) {
     tree.setFocus();
     QTest::keyClick(&tree, key);
+}
+
+QStringList TreeWindow::enabledButtons(frmMain& form) {
+    QStringList on;
+    for (const char* key : {"Add Category", "Add Folder", "Add SourceCode", "Add SourceFile",
+                            "DeleteNode", "ReName Item", "Edit", "BookMark"})
+        if (form.tbToolBar->Buttons(QLatin1String(key)).Enabled())
+            on << QLatin1String(key);
+    return on;
+}
+
+QStringList TreeWindow::popups() const {
+    QStringList shown;
+    for (const HostCall& call : hostScript.callsOf(QStringLiteral("PopupMenu")))
+        shown << call.text + QLatin1Char(':') + call.title;
+    return shown;
 }
 
 QStringList TreeWindow::childKeys(TreeView& tree, const QString& key) {

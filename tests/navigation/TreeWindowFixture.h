@@ -2,13 +2,20 @@
 
 #include "HostFixture.h"
 
-#include <QString>
-#include <Qt>
+// The window and the controls its tests drive.
+#include "ComboBox.h"
+#include "Globals.h"
+#include "RichTextBox.h"
+#include "SSTab.h"
+#include "Toolbar.h"
+#include "TreeView.h"
+#include "frmMain.h"
 
-namespace qs {
-class TreeView;
-class frmMain;
-} // namespace qs
+#include <QAction>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTest>
 
 namespace qs::test {
 
@@ -20,6 +27,10 @@ public:
     static QStringList childKeys(TreeView& tree, const QString& key);
     // Names that library in the settings, as the login does.
     static void pointAt(const QString& path);
+    // The tool bar's tree commands that are on, in the bar's order.
+    static QStringList enabledButtons(frmMain& form);
+    // The pop-up menus shown so far, each as "menu:entries shown".
+    QStringList popups() const;
 
 protected:
     void SetUp() override;

@@ -3,17 +3,11 @@
 #include "TreeWindowFixture.h"
 
 #include "FormBase.h"
-#include "Globals.h"
-#include "TreeView.h"
 #include "frmLogin.h"
-#include "frmMain.h"
 
 #include <QApplication>
 #include <QCloseEvent>
 #include <QElapsedTimer>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QTest>
 #include <QTimer>
 
 using namespace qs;

@@ -2,27 +2,18 @@
 
 #include "TreeWindowFixture.h"
 
-#include "ComboBox.h"
 #include "EventWiring.h"
 #include "FormBase.h"
-#include "Globals.h"
-#include "SSTab.h"
-#include "Toolbar.h"
-#include "TreeView.h"
 #include "cLibraryService.h"
 #include "frmLogin.h"
-#include "frmMain.h"
 #include "frmUser.h"
 #include "mRegConstants.h"
 #include "mRegistry.h"
 
-#include <QAction>
 #include <QApplication>
 #include <QFileInfo>
-#include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
-#include <QPushButton>
 
 using namespace qs;
 using namespace qs::test;
