@@ -116,10 +116,7 @@ TEST_F(Outline, ModulesUnfoldInEveryTreeWithGlobalStrippedInTheItemTreeOnly) {
     EXPECT_EQ(outline(*form.tvwBookMarks, code), classOutline("Global"));
 
     form.SSTabNavigate->setTab(2);
-    form.cboCategory->setText(QStringLiteral("Visual Basic"));
-    form.cboCodeType->setText(QStringLiteral("Class Module"));
-    QTest::keyClicks(form.txtSearchString, QStringLiteral("Refresh"));
-    QTest::keyClick(form.txtSearchString, Qt::Key_Return);
+    search(form, QStringLiteral("Refresh"), "Class Module");
     const QString hit = QStringLiteral("SRCH") + code;
     click(*form.tvwSearchResults, hit);
     EXPECT_EQ(outline(*form.tvwSearchResults, hit), classOutline("Global"));

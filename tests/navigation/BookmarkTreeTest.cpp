@@ -126,14 +126,11 @@ TEST_F(BookmarkTree, ASearchHitIsBookmarkedFromItsPopUp) {
     addCode(QStringLiteral("Trim blanks"));
     frmMain& form = open();
     form.SSTabNavigate->setTab(2);
-    form.cboCategory->setText(QStringLiteral("Visual Basic"));
-    form.cboCodeType->setText(QStringLiteral("Code Snippet"));
-    QTest::keyClicks(form.txtSearchString, QStringLiteral("Trim"));
-    form.cmdSearch->click();
+    search(form, QStringLiteral("Trim"));
     click(*form.tvwSearchResults, "SRCHSC1");
     EXPECT_EQ(form.mstrBookmarkSource, "Search");
     click(*form.tvwSearchResults, "SRCHSC1", Qt::RightButton);
-    EXPECT_EQ(popups(), QStringList({"mnuBookMarkSearch:mnuBookMarkSch"}));
+    EXPECT_EQ(popups(), "mnuBookMarkSearch:mnuBookMarkSch");
     EXPECT_TRUE(form.mnuBookMarkSch->isEnabled());
     form.mnuBookMarkSch->trigger();
     EXPECT_EQ(shown(form), QStringList({"SC1 Trim blanks TestedSnippet"}));
@@ -196,7 +193,7 @@ TEST_F(BookmarkTree, AClickShowsTheItemAndARightClickOnTheRootOffersNoDelete) {
 
     click(tree, "SC1", Qt::RightButton);
     click(tree, "ROOT", Qt::RightButton);
-    EXPECT_EQ(popups(), QStringList({"mnuBk:mnuDelBookmark"}));
+    EXPECT_EQ(popups(), "mnuBk:mnuDelBookmark");
     EXPECT_FALSE(form.tbToolBar->Buttons("DeleteNode").Enabled());
 }
 

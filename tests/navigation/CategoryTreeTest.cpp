@@ -115,7 +115,7 @@ TEST_F(CategoryTree, RightsPopUpAndKeysByLevel) {
             hostScript.expectMsgBox("You can not modify the tree view at this level.");
         click(tree, c.key, Qt::RightButton);
         EXPECT_EQ(enabledButtons(form), c.buttons);
-        EXPECT_EQ(popups().join(""), refused ? "" : c.popup);
+        EXPECT_EQ(popups(), refused ? "" : c.popup);
         EXPECT_EQ(form.mstrCategoryButton, "Left");
         // Delete first: an Insert on the root selects the category it adds.
         if (c.buttons.contains("DeleteNode"))

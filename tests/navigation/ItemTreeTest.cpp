@@ -106,10 +106,9 @@ TEST_F(ItemTree, RightClickOnAnItemSetsRightsAndGlobalsButLeavesThePanes) {
         EXPECT_EQ(form.lblCodeSnipDescr->text(), "Alpha");
         EXPECT_EQ(form.RichTextBoxCode->Text(), "' code of Alpha");
         EXPECT_EQ(form.tvwMain->SelectedItem().Key(), "SC5CodeTested");
-        EXPECT_EQ(popups().join(""),
-                  QLatin1String(access) == QLatin1String("Admin")
-                      ? "mnuModify:mnuBookMarkA,mnuDelete,mnuEditSource,mnuRename"
-                      : "");
+        EXPECT_EQ(popups(), QLatin1String(access) == QLatin1String("Admin")
+                                ? "mnuModify:mnuBookMarkA,mnuDelete,mnuEditSource,mnuRename"
+                                : "");
         form.Unload();
     }
 }
@@ -127,7 +126,7 @@ TEST_F(ItemTree, AnOutlineNodeShutsEveryCommandAndAnItemBringsThemBack) {
     EXPECT_FALSE(form.mnuModify->isEnabled() || form.mnuBookMark->isEnabled());
     EXPECT_EQ(form.lblCodeSnipDescr->text(), "Subs");
     click(tree, member, Qt::RightButton);
-    EXPECT_EQ(popups(), QStringList());
+    EXPECT_EQ(popups(), "");
 
     click(tree, "SC2CodeTested");
     EXPECT_EQ(enabledButtons(form), QStringList({"DeleteNode", "ReName Item", "Edit", "BookMark"}));

@@ -27,17 +27,6 @@ protected:
         form.SSTabNavigate->setTab(2);
         return form;
     }
-    // Picks the criteria as a person does and presses Enter in the search box.
-    static void search(frmMain& form, const QString& text, const char* codeType = "Code Snippet",
-                       const char* category = "Visual Basic") {
-        if (*category)
-            form.cboCategory->setText(QLatin1String(category));
-        if (*codeType)
-            form.cboCodeType->setText(QLatin1String(codeType));
-        form.txtSearchString->clear();
-        QTest::keyClicks(form.txtSearchString, text);
-        QTest::keyClick(form.txtSearchString, Qt::Key_Return);
-    }
     static QStringList hitTexts(frmMain& form) {
         QStringList texts;
         for (Node hit = form.tvwSearchResults->Nodes("ROOT").Child(); hit; hit = hit.Next())
@@ -112,7 +101,7 @@ TEST_F(SearchTab, EachOptionSendsItsMatchAndFoldersNeverShow) {
         EXPECT_EQ(searchSetting(REG_VAL_LASTSEARCHCRITERIA), QLatin1String(c.saved));
         form.cboCodeType->setText(QStringLiteral("Code Snippet"));
         form.cboTestedOrUntested->setText(QLatin1String(c.mode));
-        search(form, QStringLiteral("Alpha Beta"), "");
+        search(form, QStringLiteral("Alpha Beta"), nullptr);
         EXPECT_EQ(hitTexts(form), c.hits);
         EXPECT_TRUE(form.tvwSearchResults->Nodes("ROOT").Bold());
         EXPECT_EQ(form.mstrSearchCodeType, "Code Snippet");
@@ -229,13 +218,20 @@ TEST_F(SearchTab, LoginSelectsTheSavedCriteria) {
 // ---------------------------------------------------------------------------------------------
 // The text search of the code pane.
 
-using CodePaneFind = TreeWindow;
+// The snippet "Counter" shown in the code pane.
+class CodePaneFind : public TreeWindow {
+protected:
+    frmMain& openCode() {
+        addCode(QStringLiteral("Counter"));
+        frmMain& form = open();
+        click(*form.tvwCategories, "CTested1201");
+        click(*form.tvwMain, "SC1CodeTested");
+        return form;
+    }
+};
 
 TEST_F(CodePaneFind, FindMarksEveryHitAndEnterStepsToTheEnd) {
-    addCode(QStringLiteral("Counter"));
-    frmMain& form = open();
-    click(*form.tvwCategories, "CTested1201");
-    click(*form.tvwMain, "SC1CodeTested");
+    frmMain& form = openCode();
     RichTextBox& pane = *form.RichTextBoxCode;
     pane.setText(QStringLiteral("Dim n\r\nn = N + 1 ' next n."));
     const QList<int> hits = {4, 7, 11, 19, 24};
@@ -272,10 +268,7 @@ TEST_F(CodePaneFind, FindMarksEveryHitAndEnterStepsToTheEnd) {
 }
 
 TEST_F(CodePaneFind, MessagesForAnEmptyPaneNoWordAndNoHitAndTheSearchTabElsewhere) {
-    addCode(QStringLiteral("Counter"));
-    frmMain& form = open();
-    click(*form.tvwCategories, "CTested1201");
-    click(*form.tvwMain, "SC1CodeTested");
+    frmMain& form = openCode();
     RichTextBox& pane = *form.RichTextBoxCode;
     struct Case {
         const char* text;

@@ -95,6 +95,15 @@ void TreeWindow::click(TreeView& tree, const QString& key, Qt::MouseButton butto
     ADD_FAILURE() << "the node " << key.toStdString() << " is not on show";
 }
 
+void TreeWindow::search(frmMain& form, const QString& text, const char* codeType) {
+    form.cboCategory->setText(QStringLiteral("Visual Basic"));
+    if (codeType)
+        form.cboCodeType->setText(QLatin1String(codeType));
+    form.txtSearchString->clear();
+    QTest::keyClicks(form.txtSearchString, text);
+    QTest::keyClick(form.txtSearchString, Qt::Key_Return);
+}
+
 void TreeWindow::press(TreeView& tree, Qt::Key key) {
     tree.setFocus();
     QTest::keyClick(&tree, key);
@@ -109,11 +118,11 @@ QStringList TreeWindow::enabledButtons(frmMain& form) {
     return on;
 }
 
-QStringList TreeWindow::popups() const {
+std::string TreeWindow::popups() const {
     QStringList shown;
     for (const HostCall& call : hostScript.callsOf(QStringLiteral("PopupMenu")))
         shown << call.text + QLatin1Char(':') + call.title;
-    return shown;
+    return shown.join(QStringLiteral("; ")).toStdString();
 }
 
 QStringList TreeWindow::childKeys(TreeView& tree, const QString& key) {

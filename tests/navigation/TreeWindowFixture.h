@@ -29,8 +29,8 @@ public:
     static void pointAt(const QString& path);
     // The tool bar's tree commands that are on, in the bar's order.
     static QStringList enabledButtons(frmMain& form);
-    // The pop-up menus shown so far, each as "menu:entries shown".
-    QStringList popups() const;
+    // The pop-up menus shown so far, each as "menu:entries shown", joined by "; ".
+    std::string popups() const;
 
 protected:
     void SetUp() override;
@@ -50,6 +50,9 @@ protected:
     // A real click on the node of that key, on the tree's viewport (its parents are expanded
     // first, as a person has to).
     static void click(TreeView& tree, const QString& key, Qt::MouseButton button = Qt::LeftButton);
+    // Picks the category "Visual Basic" and the code type (none: as it stands) as a person does,
+    // types the text into the search box and presses Enter.
+    static void search(frmMain& form, const QString& text, const char* codeType = "Code Snippet");
     // A key pressed and released with the focus on the tree.
     static void press(TreeView& tree, Qt::Key key);
     QString mDatabase;
