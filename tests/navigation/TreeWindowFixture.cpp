@@ -30,7 +30,7 @@ void TreeWindow::pointAt(const QString& path) {
 }
 
 int TreeWindow::addCode(const QString& description, int typeId, int tested, int parentId,
-                        bool folder, int categoryId) {
+                        bool folder, int categoryId, const QString& code) {
     cSourceCode item(mDatabase);
     item.BeginEdit(0);
     item.Description(description);
@@ -39,7 +39,7 @@ int TreeWindow::addCode(const QString& description, int typeId, int tested, int 
     item.Tested(tested);
     item.ParentId(parentId);
     item.IsFolder(folder);
-    item.Code(QStringLiteral("' code of ") + description);
+    item.Code(code.isEmpty() ? QStringLiteral("' code of ") + description : code);
     return item.Save();
 }
 

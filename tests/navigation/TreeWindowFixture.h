@@ -35,9 +35,10 @@ public:
 protected:
     void SetUp() override;
 
-    // A text item or folder of category 1 unless told; returns its id.
+    // A text item or folder of category 1 unless told, its code "' code of " and the description
+    // unless told; returns its id.
     int addCode(const QString& description, int typeId = 201, int tested = 1, int parentId = 0,
-                bool folder = false, int categoryId = 1);
+                bool folder = false, int categoryId = 1, const QString& code = QString());
     // A stored-file catalogue row (no bytes); returns its id.
     int addFile(const QString& description, int typeId = 101, int parentId = 0, bool folder = false,
                 int categoryId = 1);
