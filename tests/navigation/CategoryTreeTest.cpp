@@ -110,6 +110,7 @@ TEST_F(CategoryTree, RightsPopUpAndKeysByLevel) {
         QSignalSpy adds(form.mnuAddCategory, &QAction::triggered);
         QSignalSpy deletes(form.mnuDelete, &QAction::triggered);
         click(tree, c.key);
+        EXPECT_EQ(enabledButtons(form), c.buttons) << "after the left click";
         const bool refused = QLatin1String(c.popup) == QLatin1String("!");
         if (refused)
             hostScript.expectMsgBox("You can not modify the tree view at this level.");

@@ -360,6 +360,7 @@ TEST_F(ItemPanes, RightClickOnCodePopsTheEditMenuWithoutTheBookmarkPair) {
     for (const QString& code : {QStringLiteral("Dim x"), QString()}) {
         SCOPED_TRACE(code.toStdString());
         hostScript.clearCalls();
+        form.mnuBookMark->setVisible(true); // as a click on an item leaves it
         form.RichTextBoxCode->setText(code);
         QTest::mouseClick(form.RichTextBoxCode->viewport(), Qt::RightButton, {}, QPoint(5, 5));
         EXPECT_EQ(popups(),
