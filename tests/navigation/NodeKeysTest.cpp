@@ -82,14 +82,11 @@ TEST(NodeKeys, KeysOfEveryTreeReadBackToTheirIdFamilyAndType) {
     EXPECT_EQ(TypeName(205), QString());
 }
 
-TEST(NodeKeys, DigitWidthOfTheCategoryBoundAndTheKeptMisreading) {
+TEST(NodeKeys, DigitWidthOfTheCategoryBoundAndAfterPastTheEnd) {
     const int widths[][2] = {{0, 1},    {9, 1},     {10, 2},    {99, 2},     {100, 3},
                              {9999, 4}, {10000, 5}, {99999, 5}, {100000, 6}, {5000000, 6}};
     for (const auto& w : widths)
         EXPECT_EQ(DigitWidth(w[0]), w[1]) << w[0];
-    // With ten categories a key of the third reads the wrong type id, as kept.
-    EXPECT_EQ(After(QStringLiteral("CTested3201"), 7 + DigitWidth(10)), QStringLiteral("01"));
-    EXPECT_EQ(After(QStringLiteral("CTested3201"), 7 + DigitWidth(9)), QStringLiteral("201"));
     EXPECT_EQ(After(QStringLiteral("FT1"), 5), QString());
 }
 

@@ -4,7 +4,6 @@
 #include "TreeWindowFixture.h"
 
 #include "FormBase.h"
-#include "frmLogin.h"
 #include "mRegConstants.h"
 #include "mRegistry.h"
 
@@ -201,10 +200,7 @@ TEST_F(SearchTab, LoginSelectsTheSavedCriteria) {
                            QLatin1String(c.criteria));
         }
         gintLoginAttempts = 0;
-        frmLogin& login = Forms::get<frmLogin>();
-        login.txtUserId->setText(QStringLiteral("ada"));
-        login.txtPassword->setText(QStringLiteral("pw"));
-        login.cmdOk->click();
+        logIn();
         frmMain& form = Forms::get<frmMain>();
         EXPECT_EQ(form.cboCategory->ListIndex(), c.categoryIndex);
         EXPECT_EQ(form.cboCodeType->ListIndex(), c.codeTypeIndex);

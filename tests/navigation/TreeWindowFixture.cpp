@@ -5,6 +5,7 @@
 #include "cSourceCode.h"
 #include "cSourceFile.h"
 #include "cUser.h"
+#include "frmLogin.h"
 #include "mRegConstants.h"
 #include "mRegistry.h"
 
@@ -72,6 +73,14 @@ void TreeWindow::addUser(const QString& id, const QString& password) {
     // The first user saves himself; the first saves the later ones.
     const VbArray<UserRow> users = cSecurityService().GetUsers();
     user.Save(users.isEmpty() ? id : users(1).UserId, 0);
+}
+
+void TreeWindow::logIn() {
+    frmLogin& login = Forms::get<frmLogin>();
+    login.Show();
+    login.txtUserId->setText(QStringLiteral("ada"));
+    login.txtPassword->setText(QStringLiteral("pw"));
+    login.cmdOk->click();
 }
 
 frmMain& TreeWindow::open(const QString& accessType) {

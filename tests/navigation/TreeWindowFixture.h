@@ -46,6 +46,8 @@ protected:
     // An administrator of the library, who may log in and keep bookmarks.
     static void addUser(const QString& id, const QString& password = QStringLiteral("pw"));
 
+    // Shows the login and presses OK on it with ada's id and password.
+    static void logIn();
     // Loads and shows the window for a user of that access type ("Admin", "User").
     frmMain& open(const QString& accessType = QStringLiteral("Admin"));
     // A real click on the node of that key, on the tree's viewport (its parents are expanded

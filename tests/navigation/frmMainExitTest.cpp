@@ -27,15 +27,6 @@ protected:
         TreeWindow::TearDown();
     }
 
-    // Presses OK on the login with ada's id and password.
-    static void logIn() {
-        frmLogin& login = Forms::get<frmLogin>();
-        login.Show();
-        login.txtUserId->setText(QStringLiteral("ada"));
-        login.txtPassword->setText(QStringLiteral("pw"));
-        login.cmdOk->click();
-    }
-
     // At the next yield, the main window's close box is pressed.
     void closeMainAtTheNextYield() {
         hostScript.runEventsAtYields(true);
