@@ -171,40 +171,31 @@ TEST_F(SearchTab, LoginSelectsTheSavedCriteria) {
     addCategory(QStringLiteral("Dup"));
     addUser(QStringLiteral("ada"));
     struct Case {
-        const char* category;
-        const char* codeType;
-        const char* mode;
-        const char* criteria; // nullptr: never saved
-        int categoryIndex;
-        int codeTypeIndex;
-        int modeIndex;
+        const char* saved[4]; // category, code type, mode, criteria; no criteria: never saved
+        QList<int> indexes;   // of cboCategory, cboCodeType, cboTestedOrUntested
         int option;
     };
     // cboCodeType lists the file types, then the code types; cboCategory the categories by id.
     // A code type's pick sets "Tested"; the saved mode, read before the walk, then stands.
     const Case cases[] = {
-        {"", "", "", nullptr, -1, -1, -1, 0},
-        {"Visual Basic", "Tip", "Untested", "Any Word", 0, 3, 1, 2},
-        {"Dup", "Article", "Tested", "All Words", 2, 0, 0, 1},
-        {"", "", "", "Whatever", -1, -1, -1, -1},
+        {{"", "", "", nullptr}, {-1, -1, -1}, 0},
+        {{"Visual Basic", "Tip", "Untested", "Any Word"}, {0, 3, 1}, 2},
+        {{"Dup", "Article", "Tested", "All Words"}, {2, 0, 0}, 1},
+        {{"", "", "", "Whatever"}, {-1, -1, -1}, -1},
     };
-    const QString key = QString::fromLatin1(REG_KEY_SEARCHSETTINGS);
+    const char* const names[] = {REG_VAL_LASTCAT, REG_VAL_SEARCH_LASTCODETYPE, REG_VAL_LASTMODETYPE,
+                                 REG_VAL_LASTSEARCHCRITERIA};
     for (const Case& c : cases) {
-        SCOPED_TRACE(c.criteria ? c.criteria : "none");
-        if (c.criteria) {
-            SaveRegSetting(key, QString::fromLatin1(REG_VAL_LASTCAT), QLatin1String(c.category));
-            SaveRegSetting(key, QString::fromLatin1(REG_VAL_SEARCH_LASTCODETYPE),
-                           QLatin1String(c.codeType));
-            SaveRegSetting(key, QString::fromLatin1(REG_VAL_LASTMODETYPE), QLatin1String(c.mode));
-            SaveRegSetting(key, QString::fromLatin1(REG_VAL_LASTSEARCHCRITERIA),
-                           QLatin1String(c.criteria));
-        }
+        SCOPED_TRACE(c.saved[3] ? c.saved[3] : "none");
+        for (int i = 0; c.saved[3] && i < 4; ++i)
+            SaveRegSetting(QString::fromLatin1(REG_KEY_SEARCHSETTINGS),
+                           QString::fromLatin1(names[i]), QLatin1String(c.saved[i]));
         gintLoginAttempts = 0;
         logIn();
         frmMain& form = Forms::get<frmMain>();
-        EXPECT_EQ(form.cboCategory->ListIndex(), c.categoryIndex);
-        EXPECT_EQ(form.cboCodeType->ListIndex(), c.codeTypeIndex);
-        EXPECT_EQ(form.cboTestedOrUntested->ListIndex(), c.modeIndex);
+        EXPECT_EQ(QList<int>({form.cboCategory->ListIndex(), form.cboCodeType->ListIndex(),
+                              form.cboTestedOrUntested->ListIndex()}),
+                  c.indexes);
         for (int i = 0; i < 3; ++i)
             EXPECT_EQ(form.rdoSearchOption[i]->isChecked(), i == c.option) << i;
         form.Unload();
