@@ -1,76 +1,15 @@
 // The outline of a module in the three item trees, driven through the main window.
 
+#include "SampleModule.h"
 #include "TreeWindowFixture.h"
 
-#include "ComboBox.h"
-#include "Globals.h"
 #include "NodeKeys.h"
-#include "RichTextBox.h"
-#include "SSTab.h"
-#include "TreeView.h"
 #include "cLibraryService.h"
-#include "cSourceCode.h"
-#include "frmMain.h"
-
-#include <QLabel>
-#include <QLineEdit>
-#include <QTest>
 
 using namespace qs;
 using namespace qs::test;
 
 namespace {
-
-QString crlf(const char* text) {
-    return QString::fromUtf8(text).replace(QLatin1Char('\n'), QLatin1String("\r\n"));
-}
-
-// A class module as the IDE saves it: its header block, attributes, comments above and behind
-// headers, a continued declaration, a property pair and a Static procedure.
-const QString kClass = crlf(R"(VERSION 1.0 CLASS
-BEGIN
-  MultiUse = -1  'True
-END
-Attribute VB_Name = "cPrinterInfo"
-Option Explicit
-
-' Win32 calls
-Private Declare Function GetDefaultPrinter Lib "winspool.drv" Alias "GetDefaultPrinterA" _
-    (ByVal pszBuffer As String, pcchBuffer As Long) As Long
-Private Declare Function GetTickCount Lib "kernel32" () As Long ' ticks
-Global Const APP_NAME As String = "Spool"
-Private Const MAX_PATH As Long = 260   ' buffer size
-Private mstrName As String
-Dim mlngCount As Long
-
-Private Type PRINTER_INFO ' one printer
-    pName As String
-End Type
-
-Public Enum PrintState
-    psIdle = 0
-End Enum
-
-' The printer's name
-Public Property Get Name() As String
-    Name = mstrName
-End Property
-
-Public Property Let Name(ByVal strValue As String)
-    mstrName = strValue
-End Property
-
-Public Function Refresh() As Boolean ' comment behind the header
-    Refresh = True
-End Function
-
-Private Static Sub Tally()
-    mlngCount = mlngCount + 1
-End Sub
-
-Private Sub Class_Initialize()
-    mstrName = "Default"
-End Sub)");
 
 // The outline of kClass; the constant rule strips "Global " in tvwMain only.
 QStringList classOutline(const char* globalName) {
@@ -80,21 +19,14 @@ QStringList classOutline(const char* globalName) {
             "APIDeclares: GetDefaultPrinter, GetTickCount",
             "Properties: Get Name, Let Name",
             "Functions: Refresh",
-            "Subs: Class_Initialize"};
+            "Subs: Class_Initialize, Reset"};
 }
 
 class Outline : public TreeWindow {
 protected:
     int addModule(const QString& description, const QString& code, int typeId = 203,
                   int categoryId = 1) {
-        cSourceCode item(mDatabase);
-        item.BeginEdit(0);
-        item.Description(description);
-        item.CategoryId(categoryId);
-        item.CodeTypeId(typeId);
-        item.Tested(1);
-        item.Code(code);
-        return item.Save();
+        return addCode(description, typeId, 1, 0, false, categoryId, code);
     }
 
     // Each group under the item, in the order shown, with its members' texts as shown.
@@ -126,10 +58,7 @@ TEST_F(Outline, ModulesUnfoldInEveryTreeWithGlobalStrippedInTheItemTreeOnly) {
     EXPECT_EQ(outline(*form.tvwBookMarks, code), classOutline("Global"));
 
     form.SSTabNavigate->setTab(2);
-    form.cboCategory->setText(QStringLiteral("Visual Basic"));
-    form.cboCodeType->setText(QStringLiteral("Class Module"));
-    QTest::keyClicks(form.txtSearchString, QStringLiteral("Refresh"));
-    QTest::keyClick(form.txtSearchString, Qt::Key_Return);
+    search(form, QStringLiteral("Refresh"), "Class Module");
     const QString hit = QStringLiteral("SRCH") + code;
     click(*form.tvwSearchResults, hit);
     EXPECT_EQ(outline(*form.tvwSearchResults, hit), classOutline("Global"));
@@ -155,14 +84,6 @@ TEST_F(Outline, NameRulesOnTheLayoutsOfRealModules) {
         QStringList expected;
     };
     const Case cases[] = {
-        {"class module, Windows line ends", kClass, classOutline("APP_NAME")},
-        {"form with its control section, Linux line ends",
-         QStringLiteral("VERSION 5.00\nBegin VB.Form frmAbout\n   Caption         =   \"About\"\n"
-                        "   Begin VB.CommandButton cmdOK\n      Caption         =   \"OK\"\n"
-                        "   End\nEnd\nAttribute VB_Name = \"frmAbout\"\nOption Explicit\n"
-                        "Private Sub Form_Load()\n    Caption = \"About\"\nEnd Sub\n"
-                        "Private Sub cmdOK_Click()\n    Unload Me\nEnd Sub\n"),
-         {"Subs: cmdOK_Click, Form_Load"}},
         {"a type whose first field is not indented keeps more of the line",
          crlf("Public Type T\nx As Long\nEnd Type\nPublic Const Sep = \",\"\n"),
          {"Constants: Sep", "Types: T\r"}},

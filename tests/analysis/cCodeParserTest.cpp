@@ -1,5 +1,6 @@
 #include "cCodeParser.h"
 #include "HostFixture.h"
+#include "SampleModule.h"
 
 #include <QDir>
 #include <QMap>
@@ -10,14 +11,9 @@ using namespace qs::test;
 
 namespace {
 
-// A module text written with "\n" between lines, given Windows line ends.
-QString module(const char* text) {
-    return QString::fromUtf8(text).replace(QLatin1Char('\n'), QLatin1String("\r\n"));
-}
-
 // A member text as the parser stores it: every line behind a CR LF.
 QString member(const char* lines) {
-    return QStringLiteral("\r\n") + module(lines);
+    return QStringLiteral("\r\n") + crlf(lines);
 }
 
 // The members expected, by list name; a list not named is expected empty.
@@ -63,64 +59,6 @@ void runCases(const QList<Case>& cases) {
     }
 }
 
-const char* const kGeneralModule = R"(Attribute VB_Name = "mStrings"
-Option Explicit
-
-' Win32 calls
-Private Declare Function GetTickCount Lib "kernel32" () As Long
-Public Const MAX_LEN As Long = 260 ' buffer size
-Dim mlngCount As Long
-Private mstrLast As String
-
-Private Type POINTAPI
-    x As Long
-    y As Long
-End Type
-
-Public Enum Colour
-    Red = 1
-End Enum
-
-' Joins two texts.
-Public Function Join2(a As String) As String ' pure
-    Dim s As String
-    Const SEP = ","
-
-    Join2 = a & SEP
-End Function
-
-Sub Main()
-    Join2 "x"
-End Sub)";
-
-const char* const kClassModule = R"(VERSION 1.0 CLASS
-BEGIN
-  MultiUse = -1  'True
-END
-Attribute VB_Name = "cItem"
-Attribute VB_Exposed = False
-Option Explicit
-Private mvarName As String
-
-Public Property Get Name() As String
-    Name = mvarName
-End Property
-
-Public Property Let Name(ByVal vData As String)
-    mvarName = vData
-End Property
-
-Public Default Property Get Item() As String
-End Property
-Public Static Function Counter() As Long
-    Dim n As Long
-End Function
-Static Sub Tally()
-End Sub
-Friend Sub Reset()
-    mvarName = ""
-End Sub)";
-
 const char* const kForm = R"(VERSION 5.00
 Object = "{831FDD16-0C5C-11D2-A9FC-0000F8754DA1}#2.0#0"; "MSCOMCTL.OCX"
 Begin VB.Form frmDemo
@@ -148,29 +86,33 @@ End Sub)";
 
 TEST(cCodeParser, ModulesSplitIntoTheirMembers) {
     runCases({
-        {"general module: comments above and behind headers, module variables",
-         module(kGeneralModule),
-         {{"Functions", {member(R"(Public Function Join2(a As String) As String ' pure
-    Dim s As String
-    Const SEP = ","
-
-    Join2 = a & SEP
-End Function)")}},
-          {"Subs", {member("Sub Main()\n    Join2 \"x\"\nEnd Sub")}},
+        {"class module: comments stay outside a member but behind its header inside; Static and "
+         "Default procedures pass unseen",
+         kClass,
+         {{"Functions",
+           {member("Public Function Refresh() As Boolean ' comment behind the header\n"
+                   "    Dim blnOk As Boolean\n    Const RETRIES = 3\n\n    Refresh = True\n"
+                   "End Function")}},
+          {"Subs",
+           {member("Friend Sub Reset()\n    mstrName = \"\"\nEnd Sub"),
+            member("Private Sub Class_Initialize()\n    mstrName = \"Default\"\nEnd Sub")}},
           {"APIDeclares",
-           {member(R"(Private Declare Function GetTickCount Lib "kernel32" () As Long)")}},
-          {"Types", {member("Private Type POINTAPI\n    x As Long\n    y As Long\nEnd Type")}},
-          {"Enums", {member("Public Enum Colour\n    Red = 1\nEnd Enum")}},
-          {"Constants", {member("Public Const MAX_LEN As Long = 260 ' buffer size")}}}},
-        {"class module: a Property Get/Let pair; Static and Default procedures pass unseen",
-         module(kClassModule),
-         {{"Subs", {member("Friend Sub Reset()\n    mvarName = \"\"\nEnd Sub")}},
+           {member(
+                R"(Private Declare Function GetDefaultPrinter Lib "winspool.drv" Alias "GetDefaultPrinterA" _
+    (ByVal pszBuffer As String, pcchBuffer As Long) As Long)"),
+            member(R"(Private Declare Function GetTickCount Lib "kernel32" () As Long ' ticks)")}},
+          {"Types",
+           {member("Private Type PRINTER_INFO ' one printer\n    pName As String\nEnd Type")}},
+          {"Enums", {member("Public Enum PrintState\n    psIdle = 0\nEnd Enum")}},
+          {"Constants",
+           {member(R"(Global Const APP_NAME As String = "Spool")"),
+            member("Private Const MAX_PATH As Long = 260   ' buffer size")}},
           {"Properties",
-           {member("Public Property Get Name() As String\n    Name = mvarName\nEnd Property"),
-            member("Public Property Let Name(ByVal vData As String)\n    mvarName = vData\n"
+           {member("Public Property Get Name() As String\n    Name = mstrName\nEnd Property"),
+            member("Public Property Let Name(ByVal strValue As String)\n    mstrName = strValue\n"
                    "End Property")}}}},
         {"form text: the control section is passed over",
-         module(kForm),
+         crlf(kForm),
          {{"Subs",
            {member("Private Sub cmdOk_Click()\n    Unload Me\nEnd Sub"),
             member("Private Sub Form_Load()\n    Caption = \"Demo\"\nEnd Sub")}}}},
@@ -181,17 +123,17 @@ End Function)")}},
 TEST(cCodeParser, MembersEndOnlyAtTheirClosingLineOrWithoutContinuation) {
     runCases({
         {"blanks around the closing line close it",
-         module("Sub A()\n   End Sub   \nSub B()\nEnd Sub"),
+         crlf("Sub A()\n   End Sub   \nSub B()\nEnd Sub"),
          {{"Subs", {member("Sub A()\n   End Sub   "), member("Sub B()\nEnd Sub")}}}},
         {"a comment behind, lower case or a tab keep the member open up to a proper close",
-         module("Sub A()\nEnd Sub ' done\nSub B()\nend sub\nSub C()\n\tEnd Sub\nSub D()\nEnd Sub\n"
-                "Sub E()\nEnd Sub"),
+         crlf("Sub A()\nEnd Sub ' done\nSub B()\nend sub\nSub C()\n\tEnd Sub\nSub D()\nEnd Sub\n"
+              "Sub E()\nEnd Sub"),
          {{"Subs",
            {member("Sub A()\nEnd Sub ' done\nSub B()\nend sub\nSub C()\n\tEnd Sub\nSub D()\n"
                    "End Sub"),
             member("Sub E()\nEnd Sub")}}}},
         {"continued declaration and constant; a blank behind the underscore breaks it",
-         module(R"(Private Declare Function SendMessage Lib "user32" _
+         crlf(R"(Private Declare Function SendMessage Lib "user32" _
     (ByVal hWnd As Long) As Long
 Const MSG = "a" & _
     "b"
@@ -202,17 +144,17 @@ Const BROKEN = 1 + _
           {"Constants",
            {member("Const MSG = \"a\" & _\n    \"b\""), member("Const BROKEN = 1 + _ ")}}}},
         {"a continued procedure header runs to its closing line",
-         module("Public Function Pair(ByVal a As Long, _\n    ByVal b As Long)\n"
-                "    Pair = a + b\nEnd Function"),
+         crlf("Public Function Pair(ByVal a As Long, _\n    ByVal b As Long)\n"
+              "    Pair = a + b\nEnd Function"),
          {{"Functions",
            {member("Public Function Pair(ByVal a As Long, _\n    ByVal b As Long)\n"
                    "    Pair = a + b\nEnd Function")}}}},
         {"an empty line after a constant does nothing; indented members and Dim lines open none",
-         module("Const A = 1\n\n  Public Sub Hidden()\n  End Sub\nDim \nDim  Sub"),
+         crlf("Const A = 1\n\n  Public Sub Hidden()\n  End Sub\nDim \nDim  Sub"),
          {{"Constants", {member("Const A = 1")}}}},
         {"an unindented Const inside a sub ends the sub and joins the last constant",
-         module("Const A = 1\nSub S()\n    x = 1\nConst B = 2\n    y = 2\nEnd Sub\nSub T()\n"
-                "End Sub"),
+         crlf("Const A = 1\nSub S()\n    x = 1\nConst B = 2\n    y = 2\nEnd Sub\nSub T()\n"
+              "End Sub"),
          {{"Subs", {member("Sub S()\n    x = 1"), member("Sub T()\nEnd Sub")}},
           {"Constants", {member("Const A = 1\nConst B = 2")}}}},
     });
@@ -220,7 +162,7 @@ Const BROKEN = 1 + _
 
 TEST(cCodeParser, ConstantInsideASubWithNoConstantYetGoesToTheHiddenElementZero) {
     cCodeParser parser;
-    parser.ParseSourceCode(module("Sub S()\nConst B = 2\nEnd Sub"));
+    parser.ParseSourceCode(crlf("Sub S()\nConst B = 2\nEnd Sub"));
     const MemberList constants = parser.Constants();
     EXPECT_EQ(constants.LBound(), 0);
     EXPECT_EQ(constants.UBound(), 0);
@@ -241,7 +183,7 @@ TEST(cCodeParser, WindowsAndLinuxLineEndsGiveTheSameMembers) {
     const Lists expected{{"Subs", {member("Sub A()\n\nEnd Sub"), member("Sub B()\nEnd Sub")}},
                          {"Constants", {member("Const C = 1 _\n  + 2")}}};
     runCases({
-        {"Windows", module(linux.toUtf8().constData()), expected},
+        {"Windows", crlf(linux.toUtf8().constData()), expected},
         {"Linux", linux, expected},
         {"lone CR", QString(linux).replace(QLatin1Char('\n'), QLatin1Char('\r')), expected},
         {"Linux with a trailing Windows line end", linux + QStringLiteral("\r\n"), expected},
@@ -264,13 +206,13 @@ using cCodeParserFailure = HostFixture;
 TEST_F(cCodeParserFailure, LoneScopeWordStopsTheParseWithTheReport) {
     const QList<Case> cases = {
         {"Public alone between two subs",
-         module("Public Sub A()\nEnd Sub\nPublic\nPublic Sub B()\nEnd Sub"),
+         crlf("Public Sub A()\nEnd Sub\nPublic\nPublic Sub B()\nEnd Sub"),
          {{"Subs", {member("Public Sub A()\nEnd Sub")}}}},
         {"Dim alone inside a function",
-         module("Const K = 1\nFunction F()\nDim\nEnd Function\nSub B()\nEnd Sub"),
+         crlf("Const K = 1\nFunction F()\nDim\nEnd Function\nSub B()\nEnd Sub"),
          {{"Functions", {member("Function F()")}}, {"Constants", {member("Const K = 1")}}}},
         {"an empty line after a line whose second word is a scope word",
-         module("Type T\nEnd Type\nPrivate Public x\n\nSub B()\nEnd Sub"),
+         crlf("Type T\nEnd Type\nPrivate Public x\n\nSub B()\nEnd Sub"),
          {{"Types", {member("Type T\nEnd Type")}}}},
     };
     cCodeParser parser;

@@ -1,20 +1,12 @@
 #include "TreeWindowFixture.h"
 
-#include "Globals.h"
-#include "SSTab.h"
 #include "StatusBar.h"
-#include "Toolbar.h"
-#include "TreeView.h"
 #include "cLibraryService.h"
-#include "frmMain.h"
 #include "mRegConstants.h"
 #include "mRegistry.h"
 
-#include <QAction>
 #include <QApplication>
-#include <QLineEdit>
 #include <QSignalSpy>
-#include <QTest>
 
 using namespace qs;
 using namespace qs::test;
@@ -98,17 +90,16 @@ TEST_F(CategoryTree, RightsPopUpAndKeysByLevel) {
     struct Case {
         const char* access;
         const char* key;
-        bool addCategory;
-        bool deleteNode;
-        const char* popup; // entries the right press shows; "!" the refusal; "" nothing
+        QStringList buttons;
+        const char* popup; // the pop-up the right press shows; "!" the refusal
         int keyCommands;   // entries Insert and Delete reach
     };
     const Case cases[] = {
-        {"Admin", "ROOT", true, false, "mnuAddCategory", 1},
-        {"Admin", "C1", false, true, "mnuDelete,mnuRename", 1},
-        {"Admin", "CTested1202", false, false, "!", 0},
-        {"User", "ROOT", false, false, "", 0},
-        {"User", "C1", false, false, "", 0},
+        {"Admin", "ROOT", {"Add Category"}, "mnuModify:mnuAddCategory", 1},
+        {"Admin", "C1", {"DeleteNode", "ReName Item"}, "mnuModify:mnuDelete,mnuRename", 1},
+        {"Admin", "CTested1202", {}, "!", 0},
+        {"User", "ROOT", {}, "", 0},
+        {"User", "C1", {}, "", 0},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(std::string(c.access) + " " + c.key);
@@ -119,19 +110,16 @@ TEST_F(CategoryTree, RightsPopUpAndKeysByLevel) {
         QSignalSpy adds(form.mnuAddCategory, &QAction::triggered);
         QSignalSpy deletes(form.mnuDelete, &QAction::triggered);
         click(tree, c.key);
-        if (QLatin1String(c.popup) == QLatin1String("!"))
+        EXPECT_EQ(enabledButtons(form), c.buttons) << "after the left click";
+        const bool refused = QLatin1String(c.popup) == QLatin1String("!");
+        if (refused)
             hostScript.expectMsgBox("You can not modify the tree view at this level.");
         click(tree, c.key, Qt::RightButton);
-        EXPECT_EQ(form.tbToolBar->Buttons("Add Category").Enabled(), c.addCategory);
-        EXPECT_EQ(form.tbToolBar->Buttons("DeleteNode").Enabled(), c.deleteNode);
-        EXPECT_EQ(form.tbToolBar->Buttons("ReName Item").Enabled(), c.deleteNode);
-        EXPECT_FALSE(form.tbToolBar->Buttons("BookMark").Enabled());
-        const QList<HostCall> popups = hostScript.callsOf("PopupMenu");
-        EXPECT_EQ(popups.isEmpty() ? QString() : popups[0].title,
-                  QLatin1String(c.popup) == QLatin1String("!") ? "" : c.popup);
+        EXPECT_EQ(enabledButtons(form), c.buttons);
+        EXPECT_EQ(popups(), refused ? "" : c.popup);
         EXPECT_EQ(form.mstrCategoryButton, "Left");
         // Delete first: an Insert on the root selects the category it adds.
-        if (c.deleteNode)
+        if (c.buttons.contains("DeleteNode"))
             hostScript.expectMsgBox("Do you want to delete the selected item?", vbNo);
         press(tree, Qt::Key_Delete);
         press(tree, Qt::Key_Insert);

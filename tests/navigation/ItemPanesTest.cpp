@@ -1,43 +1,39 @@
-#include "HostFixture.h"
 #include "PeImageBuilder.h"
+#include "TreeWindowFixture.h"
 
-#include "Globals.h"
 #include "ListBox.h"
 #include "ListView.h"
-#include "RichTextBox.h"
-#include "SSTab.h"
 #include "ServiceErrors.h"
-#include "Toolbar.h"
-#include "TreeView.h"
 #include "cAuthor.h"
 #include "cLibraryService.h"
-#include "frmMain.h"
-#include "mRegConstants.h"
-#include "mRegistry.h"
 
-#include <QAction>
 #include <QApplication>
 #include <QFile>
-#include <QFileInfo>
 #include <QHeaderView>
-#include <QLabel>
-#include <QLineEdit>
-#include <QMenu>
 #include <QPlainTextEdit>
 #include <QTabBar>
-#include <QTest>
 
 using namespace qs;
 using namespace qs::test;
 
 namespace {
 
-// One revision line: when, which version, by whom (0 the item's author, 1 the reviser), why.
+// One revision line, written "yyyy-MM-dd version [author comment]": author 0 is the item's own,
+// 1 (unless told) the reviser.
 struct Line {
     QDate date;
     QString version;
     int author = 1;
     QString comment = QStringLiteral("changed");
+    Line(const char* text) {
+        const QStringList parts = QString::fromLatin1(text).split(QLatin1Char(' '));
+        date = QDate::fromString(parts[0], Qt::ISODate);
+        version = parts[1];
+        if (parts.size() > 2) {
+            author = parts[2].toInt();
+            comment = parts.mid(3).join(QLatin1Char(' '));
+        }
+    }
 };
 
 // The four loaders and the revision list each fills.
@@ -54,14 +50,6 @@ const Family kFamilies[] = {
     {"SourceFileInfoArtOrComp", true, &frmMain::SourceFileInfoArtOrComp,
      &frmMain::lstSrcFileRevHist},
 };
-
-void pointAt(const QString& path) {
-    const QFileInfo file(path);
-    SaveRegSetting(QString::fromLatin1(REG_KEY_DATABASE),
-                   QString::fromLatin1(REG_VAL_DATABASE_PATH), file.absolutePath());
-    SaveRegSetting(QString::fromLatin1(REG_KEY_DATABASE),
-                   QString::fromLatin1(REG_VAL_DATABASE_FILENAME), file.fileName());
-}
 
 // The rows of a list in display order, as "date version, ...".
 std::string rows(const ListView* list) {
@@ -94,15 +82,10 @@ void clickHeader(ListView* list, int column) {
                header->height() / 2));
 }
 
-class ItemPanes : public HostFixture {
+class ItemPanes : public TreeWindow {
 protected:
     void SetUp() override {
-        HostFixture::SetUp();
-        addGlobalReset("core", [] { ResetGlobals(); });
-        mDatabase = home->file(QStringLiteral("Libraries/Quillstone.mdb"));
-        cLibraryService(mDatabase).CreateDatabase(mDatabase, QString());
-        pointAt(mDatabase);
-        gstrUserId = QStringLiteral("ada");
+        TreeWindow::SetUp();
         gstrAccessType = QStringLiteral("Admin");
         mAuthors[0] = addAuthor(QStringLiteral("Ada"), QStringLiteral("Lovelace"));
         mAuthors[1] = addAuthor(QStringLiteral("Tom"), QStringLiteral("Kell"));
@@ -148,14 +131,11 @@ protected:
         item.CodeTypeId(201);
         item.Description(QStringLiteral("Split words"));
         item.Code(QStringLiteral("Public Sub Split()\r\nEnd Sub"));
-        item.Notes(QStringLiteral("Splits at blanks."));
-        item.Example(QStringLiteral("Split \"a b\""));
         item.AuthorId(mAuthors[0]);
         addLines(item, lines);
         return item.Save();
     }
 
-    QString mDatabase;
     int mAuthors[2] = {};
 };
 
@@ -169,19 +149,11 @@ TEST_F(ItemPanes, NewestVersionIsTheLatestDateAfter2001AndTheLowerTextOnTheSameD
     };
     const Case cases[] = {
         {"no revisions", {}, ""},
-        {"same date, lower text first",
-         {{{2024, 3, 4}, "1.0.10"}, {{2024, 3, 4}, "1.0.9"}},
-         "1.0.10"},
-        {"same date, lower text last",
-         {{{2024, 3, 4}, "1.0.9"}, {{2024, 3, 4}, "1.0.10"}},
-         "1.0.10"},
-        {"later date beats higher text",
-         {{{2024, 3, 4}, "2.0.0"}, {{2024, 3, 5}, "1.0.1"}},
-         "1.0.1"},
-        {"before 2001 never counts", {{{2000, 12, 31}, "3.0.0"}}, ""},
-        {"before 2001 beside a later one",
-         {{{2005, 6, 1}, "1.2.0"}, {{1999, 1, 1}, "9.9.9"}},
-         "1.2.0"},
+        {"same date, lower text first", {"2024-03-04 1.0.10", "2024-03-04 1.0.9"}, "1.0.10"},
+        {"same date, lower text last", {"2024-03-04 1.0.9", "2024-03-04 1.0.10"}, "1.0.10"},
+        {"later date beats higher text", {"2024-03-04 2.0.0", "2024-03-05 1.0.1"}, "1.0.1"},
+        {"before 2001 never counts", {"2000-12-31 3.0.0"}, ""},
+        {"before 2001 beside a later one", {"2005-06-01 1.2.0", "1999-01-01 9.9.9"}, "1.2.0"},
     };
     frmMain& form = Forms::get<frmMain>();
     for (const Family& family : kFamilies) {
@@ -217,8 +189,8 @@ TEST_F(ItemPanes, ClickingARevisionRowShowsItsAuthorAndComment) {
     form.show();
     for (const Family& family : kFamilies) {
         SCOPED_TRACE(family.name);
-        (form.*family.load)(add(family.file, {{{2024, 3, 5}, "1.1.0", 1, "Faster split"},
-                                              {{2024, 3, 4}, "1.0.0", 0, "Source Code Added"}}));
+        (form.*family.load)(add(family.file, {"2024-03-05 1.1.0 1 Faster split",
+                                              "2024-03-04 1.0.0 0 Source Code Added"}));
         ListView* list = showRevisions(form, family);
         QLineEdit* author = family.file ? form.txtSFRevHistAuthor : form.txtRevisionAuthorSC;
         QPlainTextEdit* comment = family.file ? form.txtRevCommentsSF : form.txtChangesSC;
@@ -240,8 +212,7 @@ TEST_F(ItemPanes, ColumnClickTogglesTheSortOfThatColumn) {
     for (const Family& family : {kFamilies[0], kFamilies[3]}) {
         SCOPED_TRACE(family.name);
         (form.*family.load)(
-            add(family.file,
-                {{{2024, 1, 3}, "1.0.9"}, {{2024, 1, 1}, "1.0.10"}, {{2024, 1, 2}, "1.1.0"}}));
+            add(family.file, {"2024-01-03 1.0.9", "2024-01-01 1.0.10", "2024-01-02 1.1.0"}));
         ListView* list = showRevisions(form, family);
         EXPECT_EQ(rows(list), "01/02/2024 1.1.0, 01/03/2024 1.0.9, 01/01/2024 1.0.10");
         clickHeader(list, 2);
@@ -314,7 +285,7 @@ TEST_F(ItemPanes, RecordAnotherUserDeletedLeavesEmptyPanesWithoutAReport) {
     };
     for (const Family& family : kFamilies) {
         SCOPED_TRACE(family.name);
-        const int id = add(family.file, {{{2024, 3, 4}, "1.0.0"}});
+        const int id = add(family.file, {"2024-03-04 1.0.0"});
         (form.*family.load)(id);
         ASSERT_EQ((form.*family.list)->ListItems.Count(), 1);
         cLibraryService other(mDatabase);
@@ -326,6 +297,7 @@ TEST_F(ItemPanes, RecordAnotherUserDeletedLeavesEmptyPanesWithoutAReport) {
         EXPECT_EQ((family.file ? form.txtFilename : form.txtVersionNo)->text(), QString());
         EXPECT_EQ((family.file ? form.txtSFRevHistAuthor : form.txtRevisionAuthorSC)->text(),
                   QString());
+        EXPECT_TRUE(family.file || form.RichTextBoxCode->Text().isEmpty());
     }
     EXPECT_TRUE(hostScript.msgBoxes().isEmpty()) << hostScript.log().toStdString();
 
@@ -375,8 +347,7 @@ TEST_F(ItemPanes, FocusOnATabOrTheCodePaneTakesTheTreeCommandsAway) {
         enableAll();
         act();
         EXPECT_FALSE(form.mnuModify->isEnabled());
-        for (const QString& key : buttons)
-            EXPECT_EQ(form.tbToolBar->Buttons(key).Enabled(), !buttonsOff) << key.toStdString();
+        EXPECT_EQ(enabledButtons(form), buttonsOff ? QStringList() : buttons);
     }
 
     clickTab(form.SSTabNavigate, 2);
@@ -389,21 +360,12 @@ TEST_F(ItemPanes, RightClickOnCodePopsTheEditMenuWithoutTheBookmarkPair) {
     for (const QString& code : {QStringLiteral("Dim x"), QString()}) {
         SCOPED_TRACE(code.toStdString());
         hostScript.clearCalls();
+        form.mnuBookMark->setVisible(true); // as a click on an item leaves it
         form.RichTextBoxCode->setText(code);
         QTest::mouseClick(form.RichTextBoxCode->viewport(), Qt::RightButton, {}, QPoint(5, 5));
-        const QList<HostCall> popups = hostScript.callsOf(QStringLiteral("PopupMenu"));
-        if (code.isEmpty()) {
-            EXPECT_TRUE(popups.isEmpty());
-        } else {
-            ASSERT_EQ(popups.size(), 1);
-            EXPECT_EQ(popups[0].text, QStringLiteral("mnuEdit"));
-            const QStringList shown = popups[0].title.split(QLatin1Char(','));
-            EXPECT_TRUE(shown.contains(QStringLiteral("mnuCopy")));
-            EXPECT_FALSE(shown.contains(QStringLiteral("seperator3")));
-            EXPECT_FALSE(shown.contains(QStringLiteral("mnuBookMark")));
-        }
-        EXPECT_TRUE(form.seperator3->isVisible());
-        EXPECT_TRUE(form.mnuBookMark->isVisible());
+        EXPECT_EQ(popups(),
+                  code.isEmpty() ? "" : "mnuEdit:mnuFind,mnuCopy,mnuAdvancedCopy,mnuSelectAll");
+        EXPECT_TRUE(form.seperator3->isVisible() && form.mnuBookMark->isVisible());
     }
 }
 

@@ -1,28 +1,16 @@
 #include "TreeWindowFixture.h"
 
-#include "ComboBox.h"
-#include "Globals.h"
 #include "ListView.h"
-#include "RichTextBox.h"
-#include "SSTab.h"
 #include "StatusBar.h"
-#include "Toolbar.h"
-#include "TreeView.h"
-#include "frmMain.h"
 #include "mHelpRoutines.h"
 #include "mRegConstants.h"
 #include "mRegistry.h"
 
-#include <QAction>
 #include <QApplication>
 #include <QFontInfo>
-#include <QLabel>
-#include <QLineEdit>
 #include <QPlainTextEdit>
-#include <QPushButton>
 #include <QScreen>
 #include <QSignalSpy>
-#include <QTest>
 
 using namespace qs;
 using namespace qs::test;
@@ -94,11 +82,6 @@ TEST_F(Routing, DeleteNodeOnTheRootWarnsAndClicksItAgain) {
     EXPECT_EQ(deletes.count(), 0);
     EXPECT_FALSE(form.tbToolBar->Buttons("DeleteNode").Enabled());
     EXPECT_EQ(form.lblCodeSnipDescr->text(), "Tarnwick");
-
-    click(*form.tvwMain, "SC1CodeTested");
-    hostScript.expectMsgBox("Do you want to delete the selected item?", vbNo);
-    ASSERT_TRUE(toolBar(form, "DeleteNode"));
-    EXPECT_EQ(deletes.count(), 1);
 }
 
 TEST_F(Routing, F1OpensTheTopicOfTheControlWithTheFocus) {

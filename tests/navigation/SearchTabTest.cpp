@@ -3,24 +3,11 @@
 
 #include "TreeWindowFixture.h"
 
-#include "ComboBox.h"
 #include "FormBase.h"
-#include "Globals.h"
-#include "RichTextBox.h"
-#include "SSTab.h"
-#include "Toolbar.h"
-#include "TreeView.h"
-#include "frmLogin.h"
-#include "frmMain.h"
 #include "mRegConstants.h"
 #include "mRegistry.h"
 
-#include <QAction>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
 #include <QRadioButton>
-#include <QTest>
 
 using namespace qs;
 using namespace qs::test;
@@ -38,17 +25,6 @@ protected:
         frmMain& form = open();
         form.SSTabNavigate->setTab(2);
         return form;
-    }
-    // Picks the criteria as a person does and presses Enter in the search box.
-    static void search(frmMain& form, const QString& text, const char* codeType = "Code Snippet",
-                       const char* category = "Visual Basic") {
-        if (*category)
-            form.cboCategory->setText(QLatin1String(category));
-        if (*codeType)
-            form.cboCodeType->setText(QLatin1String(codeType));
-        form.txtSearchString->clear();
-        QTest::keyClicks(form.txtSearchString, text);
-        QTest::keyClick(form.txtSearchString, Qt::Key_Return);
     }
     static QStringList hitTexts(frmMain& form) {
         QStringList texts;
@@ -124,7 +100,7 @@ TEST_F(SearchTab, EachOptionSendsItsMatchAndFoldersNeverShow) {
         EXPECT_EQ(searchSetting(REG_VAL_LASTSEARCHCRITERIA), QLatin1String(c.saved));
         form.cboCodeType->setText(QStringLiteral("Code Snippet"));
         form.cboTestedOrUntested->setText(QLatin1String(c.mode));
-        search(form, QStringLiteral("Alpha Beta"), "");
+        search(form, QStringLiteral("Alpha Beta"), nullptr);
         EXPECT_EQ(hitTexts(form), c.hits);
         EXPECT_TRUE(form.tvwSearchResults->Nodes("ROOT").Bold());
         EXPECT_EQ(form.mstrSearchCodeType, "Code Snippet");
@@ -195,43 +171,31 @@ TEST_F(SearchTab, LoginSelectsTheSavedCriteria) {
     addCategory(QStringLiteral("Dup"));
     addUser(QStringLiteral("ada"));
     struct Case {
-        const char* category;
-        const char* codeType;
-        const char* mode;
-        const char* criteria; // nullptr: never saved
-        int categoryIndex;
-        int codeTypeIndex;
-        int modeIndex;
+        const char* saved[4]; // category, code type, mode, criteria; no criteria: never saved
+        QList<int> indexes;   // of cboCategory, cboCodeType, cboTestedOrUntested
         int option;
     };
     // cboCodeType lists the file types, then the code types; cboCategory the categories by id.
     // A code type's pick sets "Tested"; the saved mode, read before the walk, then stands.
     const Case cases[] = {
-        {"", "", "", nullptr, -1, -1, -1, 0},
-        {"Visual Basic", "Tip", "Untested", "Any Word", 0, 3, 1, 2},
-        {"Dup", "Article", "Tested", "All Words", 2, 0, 0, 1},
-        {"", "", "", "Whatever", -1, -1, -1, -1},
+        {{"", "", "", nullptr}, {-1, -1, -1}, 0},
+        {{"Visual Basic", "Tip", "Untested", "Any Word"}, {0, 3, 1}, 2},
+        {{"Dup", "Article", "Tested", "All Words"}, {2, 0, 0}, 1},
+        {{"", "", "", "Whatever"}, {-1, -1, -1}, -1},
     };
-    const QString key = QString::fromLatin1(REG_KEY_SEARCHSETTINGS);
+    const char* const names[] = {REG_VAL_LASTCAT, REG_VAL_SEARCH_LASTCODETYPE, REG_VAL_LASTMODETYPE,
+                                 REG_VAL_LASTSEARCHCRITERIA};
     for (const Case& c : cases) {
-        SCOPED_TRACE(c.criteria ? c.criteria : "none");
-        if (c.criteria) {
-            SaveRegSetting(key, QString::fromLatin1(REG_VAL_LASTCAT), QLatin1String(c.category));
-            SaveRegSetting(key, QString::fromLatin1(REG_VAL_SEARCH_LASTCODETYPE),
-                           QLatin1String(c.codeType));
-            SaveRegSetting(key, QString::fromLatin1(REG_VAL_LASTMODETYPE), QLatin1String(c.mode));
-            SaveRegSetting(key, QString::fromLatin1(REG_VAL_LASTSEARCHCRITERIA),
-                           QLatin1String(c.criteria));
-        }
+        SCOPED_TRACE(c.saved[3] ? c.saved[3] : "none");
+        for (int i = 0; c.saved[3] && i < 4; ++i)
+            SaveRegSetting(QString::fromLatin1(REG_KEY_SEARCHSETTINGS),
+                           QString::fromLatin1(names[i]), QLatin1String(c.saved[i]));
         gintLoginAttempts = 0;
-        frmLogin& login = Forms::get<frmLogin>();
-        login.txtUserId->setText(QStringLiteral("ada"));
-        login.txtPassword->setText(QStringLiteral("pw"));
-        login.cmdOk->click();
+        logIn();
         frmMain& form = Forms::get<frmMain>();
-        EXPECT_EQ(form.cboCategory->ListIndex(), c.categoryIndex);
-        EXPECT_EQ(form.cboCodeType->ListIndex(), c.codeTypeIndex);
-        EXPECT_EQ(form.cboTestedOrUntested->ListIndex(), c.modeIndex);
+        EXPECT_EQ(QList<int>({form.cboCategory->ListIndex(), form.cboCodeType->ListIndex(),
+                              form.cboTestedOrUntested->ListIndex()}),
+                  c.indexes);
         for (int i = 0; i < 3; ++i)
             EXPECT_EQ(form.rdoSearchOption[i]->isChecked(), i == c.option) << i;
         form.Unload();
@@ -241,13 +205,20 @@ TEST_F(SearchTab, LoginSelectsTheSavedCriteria) {
 // ---------------------------------------------------------------------------------------------
 // The text search of the code pane.
 
-using CodePaneFind = TreeWindow;
+// The snippet "Counter" shown in the code pane.
+class CodePaneFind : public TreeWindow {
+protected:
+    frmMain& openCode() {
+        addCode(QStringLiteral("Counter"));
+        frmMain& form = open();
+        click(*form.tvwCategories, "CTested1201");
+        click(*form.tvwMain, "SC1CodeTested");
+        return form;
+    }
+};
 
 TEST_F(CodePaneFind, FindMarksEveryHitAndEnterStepsToTheEnd) {
-    addCode(QStringLiteral("Counter"));
-    frmMain& form = open();
-    click(*form.tvwCategories, "CTested1201");
-    click(*form.tvwMain, "SC1CodeTested");
+    frmMain& form = openCode();
     RichTextBox& pane = *form.RichTextBoxCode;
     pane.setText(QStringLiteral("Dim n\r\nn = N + 1 ' next n."));
     const QList<int> hits = {4, 7, 11, 19, 24};
@@ -284,10 +255,7 @@ TEST_F(CodePaneFind, FindMarksEveryHitAndEnterStepsToTheEnd) {
 }
 
 TEST_F(CodePaneFind, MessagesForAnEmptyPaneNoWordAndNoHitAndTheSearchTabElsewhere) {
-    addCode(QStringLiteral("Counter"));
-    frmMain& form = open();
-    click(*form.tvwCategories, "CTested1201");
-    click(*form.tvwMain, "SC1CodeTested");
+    frmMain& form = openCode();
     RichTextBox& pane = *form.RichTextBoxCode;
     struct Case {
         const char* text;

@@ -1,20 +1,16 @@
 #include "TreeWindowFixture.h"
 
-#include "FormBase.h"
-#include "Globals.h"
-#include "TreeView.h"
 #include "cLibraryService.h"
 #include "cSecurityService.h"
 #include "cSourceCode.h"
 #include "cSourceFile.h"
 #include "cUser.h"
-#include "frmMain.h"
+#include "frmLogin.h"
 #include "mRegConstants.h"
 #include "mRegistry.h"
 
 #include <QApplication>
 #include <QFileInfo>
-#include <QTest>
 #include <QTreeWidgetItemIterator>
 
 namespace qs::test {
@@ -24,16 +20,18 @@ void TreeWindow::SetUp() {
     addGlobalReset("core", [] { ResetGlobals(); });
     mDatabase = home->file(QStringLiteral("Libraries/Quillstone.mdb"));
     cLibraryService(mDatabase).CreateDatabase(mDatabase, QString());
-    const QString key = QString::fromLatin1(REG_KEY_DATABASE);
-    SaveRegSetting(key, QString::fromLatin1(REG_VAL_DATABASE_PATH),
-                   QFileInfo(mDatabase).absolutePath());
-    SaveRegSetting(key, QString::fromLatin1(REG_VAL_DATABASE_FILENAME),
-                   QFileInfo(mDatabase).fileName());
+    pointAt(mDatabase);
     gstrUserId = QStringLiteral("ada");
 }
 
+void TreeWindow::pointAt(const QString& path) {
+    const QString key = QString::fromLatin1(REG_KEY_DATABASE);
+    SaveRegSetting(key, QString::fromLatin1(REG_VAL_DATABASE_PATH), QFileInfo(path).absolutePath());
+    SaveRegSetting(key, QString::fromLatin1(REG_VAL_DATABASE_FILENAME), QFileInfo(path).fileName());
+}
+
 int TreeWindow::addCode(const QString& description, int typeId, int tested, int parentId,
-                        bool folder, int categoryId) {
+                        bool folder, int categoryId, const QString& code) {
     cSourceCode item(mDatabase);
     item.BeginEdit(0);
     item.Description(description);
@@ -42,7 +40,7 @@ int TreeWindow::addCode(const QString& description, int typeId, int tested, int 
     item.Tested(tested);
     item.ParentId(parentId);
     item.IsFolder(folder);
-    item.Code(QStringLiteral("' code of ") + description);
+    item.Code(code.isEmpty() ? QStringLiteral("' code of ") + description : code);
     return item.Save();
 }
 
@@ -77,6 +75,14 @@ void TreeWindow::addUser(const QString& id, const QString& password) {
     user.Save(users.isEmpty() ? id : users(1).UserId, 0);
 }
 
+void TreeWindow::logIn() {
+    frmLogin& login = Forms::get<frmLogin>();
+    login.Show();
+    login.txtUserId->setText(QStringLiteral("ada"));
+    login.txtPassword->setText(QStringLiteral("pw"));
+    login.cmdOk->click();
+}
+
 frmMain& TreeWindow::open(const QString& accessType) {
     gstrAccessType = accessType;
     frmMain& form = Forms::get<frmMain>();
@@ -98,9 +104,34 @@ void TreeWindow::click(TreeView& tree, const QString& key, Qt::MouseButton butto
     ADD_FAILURE() << "the node " << key.toStdString() << " is not on show";
 }
 
+void TreeWindow::search(frmMain& form, const QString& text, const char* codeType) {
+    form.cboCategory->setText(QStringLiteral("Visual Basic"));
+    if (codeType)
+        form.cboCodeType->setText(QLatin1String(codeType));
+    form.txtSearchString->clear();
+    QTest::keyClicks(form.txtSearchString, text);
+    QTest::keyClick(form.txtSearchString, Qt::Key_Return);
+}
+
 void TreeWindow::press(TreeView& tree, Qt::Key key) {
     tree.setFocus();
     QTest::keyClick(&tree, key);
+}
+
+QStringList TreeWindow::enabledButtons(frmMain& form) {
+    QStringList on;
+    for (const char* key : {"Add Category", "Add Folder", "Add SourceCode", "Add SourceFile",
+                            "DeleteNode", "ReName Item", "Edit", "BookMark"})
+        if (form.tbToolBar->Buttons(QLatin1String(key)).Enabled())
+            on << QLatin1String(key);
+    return on;
+}
+
+std::string TreeWindow::popups() const {
+    QStringList shown;
+    for (const HostCall& call : hostScript.callsOf(QStringLiteral("PopupMenu")))
+        shown << call.text + QLatin1Char(':') + call.title;
+    return shown.join(QStringLiteral("; ")).toStdString();
 }
 
 QStringList TreeWindow::childKeys(TreeView& tree, const QString& key) {

@@ -1,24 +1,13 @@
 // Leaving the main window, and events that close it while one of its handlers yields.
 
-#include "HostFixture.h"
+#include "TreeWindowFixture.h"
 
 #include "FormBase.h"
-#include "Globals.h"
-#include "TreeView.h"
-#include "cLibraryService.h"
-#include "cUser.h"
 #include "frmLogin.h"
-#include "frmMain.h"
-#include "mRegConstants.h"
-#include "mRegistry.h"
 
 #include <QApplication>
 #include <QCloseEvent>
 #include <QElapsedTimer>
-#include <QFileInfo>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QTest>
 #include <QTimer>
 
 using namespace qs;
@@ -27,39 +16,15 @@ using namespace qs::test;
 namespace {
 
 // An empty library that the settings name, holding the administrator "ada".
-class MainExit : public HostFixture {
+class MainExit : public TreeWindow {
 protected:
     void SetUp() override {
-        HostFixture::SetUp();
-        addGlobalReset("core", [] { ResetGlobals(); });
-        const QString database = home->file(QStringLiteral("Libraries/Quillstone.mdb"));
-        cLibraryService(database).CreateDatabase(database, QString());
-        const QFileInfo file(database);
-        SaveRegSetting(QString::fromLatin1(REG_KEY_DATABASE),
-                       QString::fromLatin1(REG_VAL_DATABASE_PATH), file.absolutePath());
-        SaveRegSetting(QString::fromLatin1(REG_KEY_DATABASE),
-                       QString::fromLatin1(REG_VAL_DATABASE_FILENAME), file.fileName());
-        cUser user;
-        user.BeginEdit(0);
-        user.UserId(QStringLiteral("ada"));
-        user.Password(QStringLiteral("secret"));
-        user.FirstName(QStringLiteral("Ada"));
-        user.LastName(QStringLiteral("Byron"));
-        user.AccessLevel(1);
-        user.Save(QStringLiteral("ada"), 0);
+        TreeWindow::SetUp();
+        addUser(QStringLiteral("ada"));
     }
     void TearDown() override {
         Forms::setOnEmpty(nullptr);
-        HostFixture::TearDown();
-    }
-
-    // Presses OK on the login with ada's id and password.
-    static void logIn() {
-        frmLogin& login = Forms::get<frmLogin>();
-        login.Show();
-        login.txtUserId->setText(QStringLiteral("ada"));
-        login.txtPassword->setText(QStringLiteral("secret"));
-        login.cmdOk->click();
+        TreeWindow::TearDown();
     }
 
     // At the next yield, the main window's close box is pressed.
