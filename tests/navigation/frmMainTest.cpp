@@ -92,6 +92,10 @@ TEST_F(MainWindow, StartUpFillsTheSearchCombosAndMakesTheService) {
     EXPECT_EQ(form.mstrLastNodeCategory + form.mstrLastCodeType + form.mstrLastCodeTypeMain,
               "ROOTROOTROOT");
     EXPECT_EQ(hostScript.mousePointer(), vbDefault);
+    // Texts the window keeps exactly as they have always read.
+    EXPECT_EQ(form.lblCategories->text(), "Quillstone Catagories:");
+    EXPECT_EQ(form.SSTabNavigate->TabCaption(1) + "|" + form.SSTabNavigate->TabCaption(2),
+              "BookMarks|Search/Results");
 
     // Activation on the search tab gives the search box the focus.
     form.SSTabNavigate->setTab(2);
