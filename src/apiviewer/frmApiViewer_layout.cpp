@@ -6,6 +6,7 @@
 #include "CommonDialog.h"
 #include "EventWiring.h"
 #include "ListBox.h"
+#include "MenuParts.h"
 #include "RichTextBox.h"
 #include "TextBox.h"
 
@@ -23,6 +24,9 @@
 
 namespace qs {
 
+using menuparts::entry;
+using menuparts::subMenu;
+
 namespace {
 
 QPushButton* button(QWidget* owner, const char* name, const QString& caption) {
@@ -38,21 +42,6 @@ QGroupBox* frame(QWidget* owner, const char* name, const QString& caption, QWidg
     auto* layout = new QVBoxLayout(box);
     layout->addWidget(content);
     return box;
-}
-
-QAction* subMenu(QWidget* owner, QMenuBar* bar, const char* name, const QString& caption) {
-    auto* menu = new QMenu(caption, owner);
-    menu->setObjectName(QString::fromLatin1(name));
-    QAction* action = menu->menuAction();
-    action->setObjectName(QString::fromLatin1(name));
-    bar->addMenu(menu);
-    return action;
-}
-
-QAction* entry(QAction* menu, const char* name, const QString& caption) {
-    QAction* action = menu->menu()->addAction(caption);
-    action->setObjectName(QString::fromLatin1(name));
-    return action;
 }
 
 } // namespace

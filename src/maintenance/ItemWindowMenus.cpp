@@ -1,5 +1,6 @@
 #include "ItemWindowMenus.h"
 
+#include "MenuParts.h"
 #include "Toolbar.h"
 #include "mEditCommands.h"
 
@@ -8,24 +9,8 @@
 
 namespace qs {
 
-namespace {
-
-QAction* subMenu(QWidget* owner, QMenuBar* bar, const char* name, const QString& caption) {
-    auto* menu = new QMenu(caption, owner);
-    menu->setObjectName(QString::fromLatin1(name));
-    QAction* action = menu->menuAction();
-    action->setObjectName(QString::fromLatin1(name));
-    bar->addMenu(menu);
-    return action;
-}
-
-QAction* entry(QAction* menu, const char* name, const QString& caption) {
-    QAction* action = menu->menu()->addAction(caption);
-    action->setObjectName(QString::fromLatin1(name));
-    return action;
-}
-
-} // namespace
+using menuparts::entry;
+using menuparts::subMenu;
 
 ItemWindowMenus BuildItemWindowMenus(QWidget* owner, bool withImport) {
     ItemWindowMenus m;

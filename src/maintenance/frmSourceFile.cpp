@@ -8,6 +8,7 @@
 #include "Globals.h"
 #include "Host.h"
 #include "ImageList.h"
+#include "MenuParts.h"
 #include "NodeKeys.h"
 #include "RevisionList.h"
 #include "SSTab.h"
@@ -36,6 +37,8 @@
 namespace qs {
 
 using dialogparts::button;
+using menuparts::entry;
+using menuparts::subMenu;
 
 namespace {
 
@@ -43,20 +46,6 @@ QLabel* label(QWidget* owner, const char* name, const QString& caption) {
     auto* l = new QLabel(caption, owner);
     l->setObjectName(QString::fromLatin1(name));
     return l;
-}
-
-QAction* menu(QWidget* owner, QMenuBar* bar, const char* name, const QString& caption) {
-    auto* m = new QMenu(caption, owner);
-    m->setObjectName(QString::fromLatin1(name));
-    m->menuAction()->setObjectName(QString::fromLatin1(name));
-    bar->addMenu(m);
-    return m->menuAction();
-}
-
-QAction* entry(QAction* parent, const char* name, const QString& caption) {
-    QAction* a = parent->menu()->addAction(caption);
-    a->setObjectName(QString::fromLatin1(name));
-    return a;
 }
 
 } // namespace
@@ -154,13 +143,13 @@ void frmSourceFile::buildLayout() {
 }
 
 void frmSourceFile::buildMenus() {
-    mnuFile = menu(this, menuBar, "mnuFile", QStringLiteral("&File"));
+    mnuFile = subMenu(this, menuBar, "mnuFile", QStringLiteral("&File"));
     mnuExit = entry(mnuFile, "mnuExit", QStringLiteral("Exit"));
-    mnuEdit = menu(this, menuBar, "mnuEdit", QStringLiteral("&Edit"));
+    mnuEdit = subMenu(this, menuBar, "mnuEdit", QStringLiteral("&Edit"));
     mnuCut = entry(mnuEdit, "mnuCut", QStringLiteral("Cut"));
     mnuCopy = entry(mnuEdit, "mnuCopy", QStringLiteral("Copy"));
     mnuPaste = entry(mnuEdit, "mnuPaste", QStringLiteral("Paste"));
-    mnuHelp = menu(this, menuBar, "mnuHelp", QStringLiteral("&Help"));
+    mnuHelp = subMenu(this, menuBar, "mnuHelp", QStringLiteral("&Help"));
     mnuHelpContents = entry(mnuHelp, "mnuHelpContents", QStringLiteral("Contents..."));
     mnuHelpSearch = entry(mnuHelp, "mnuHelpSearch", QStringLiteral("Search..."));
     mnuHelpOnHelp = entry(mnuHelp, "mnuHelpOnHelp", QStringLiteral("How to Use Help"));

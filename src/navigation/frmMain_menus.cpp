@@ -3,6 +3,7 @@
 #include "frmMain.h"
 
 #include "EventWiring.h"
+#include "MenuParts.h"
 #include "Toolbar.h"
 #include "TreeView.h"
 
@@ -13,43 +14,17 @@
 
 namespace qs {
 
-namespace {
-
-// A sub-menu: the QMenu and its action both carry the design name.
-QAction* subMenu(QWidget* owner, QMenuBar* bar, QMenu* parent, const char* name,
-                 const QString& caption) {
-    auto* menu = new QMenu(caption, owner);
-    menu->setObjectName(QString::fromLatin1(name));
-    QAction* action = menu->menuAction();
-    action->setObjectName(QString::fromLatin1(name));
-    if (bar)
-        bar->addMenu(menu);
-    else
-        parent->addMenu(menu);
-    return action;
-}
-
-QAction* entry(QAction* menu, const char* name, const QString& caption) {
-    QAction* action = menu->menu()->addAction(caption);
-    action->setObjectName(QString::fromLatin1(name));
-    return action;
-}
-
-QAction* separator(QAction* menu, const char* name) {
-    QAction* action = menu->menu()->addSeparator();
-    action->setObjectName(QString::fromLatin1(name));
-    return action;
-}
-
-} // namespace
+using menuparts::entry;
+using menuparts::separator;
+using menuparts::subMenu;
 
 void frmMain::buildMenus() {
     QMenuBar* bar = menuBar;
 
-    mnuFile = subMenu(this, bar, nullptr, "mnuFile", QStringLiteral("&File"));
-    mnuImport = subMenu(this, nullptr, mnuFile->menu(), "mnuImport", QStringLiteral("Import"));
+    mnuFile = subMenu(this, bar, "mnuFile", QStringLiteral("&File"));
+    mnuImport = subMenu(this, mnuFile->menu(), "mnuImport", QStringLiteral("Import"));
     mnuImportQSDB = entry(mnuImport, "mnuImportQSDB", QStringLiteral("From QS Database"));
-    mnuExport = subMenu(this, nullptr, mnuFile->menu(), "mnuExport", QStringLiteral("Export"));
+    mnuExport = subMenu(this, mnuFile->menu(), "mnuExport", QStringLiteral("Export"));
     mnuRTF = entry(mnuExport, "mnuRTF", QStringLiteral("To RTF"));
     mnuPDF = entry(mnuExport, "mnuPDF", QStringLiteral("To PDF"));
     mnuXml = entry(mnuExport, "mnuXml", QStringLiteral("To XML"));
@@ -60,7 +35,7 @@ void frmMain::buildMenus() {
     Seperator2 = separator(mnuFile, "Seperator2");
     mnuExit = entry(mnuFile, "mnuExit", QStringLiteral("Exit"));
 
-    mnuEdit = subMenu(this, bar, nullptr, "mnuEdit", QStringLiteral("&Edit"));
+    mnuEdit = subMenu(this, bar, "mnuEdit", QStringLiteral("&Edit"));
     mnuFind = entry(mnuEdit, "mnuFind", QStringLiteral("Find"));
     mnuCopy = entry(mnuEdit, "mnuCopy", QStringLiteral("Copy"));
     mnuAdvancedCopy = entry(mnuEdit, "mnuAdvancedCopy", QStringLiteral("Advanced Copy"));
@@ -69,19 +44,18 @@ void frmMain::buildMenus() {
     seperator3 = separator(mnuEdit, "seperator3");
     mnuBookMark = entry(mnuEdit, "mnuBookMark", QStringLiteral("BookMark"));
 
-    mnuView = subMenu(this, bar, nullptr, "mnuView", QStringLiteral("&View"));
+    mnuView = subMenu(this, bar, "mnuView", QStringLiteral("&View"));
     mnuApiViewer = entry(mnuView, "mnuApiViewer", QStringLiteral("API Viewer"));
     mnuBookMarkS = entry(mnuView, "mnuBookMarkS", QStringLiteral("Bookmarks"));
 
-    mnuBookMarkSearch = subMenu(this, bar, nullptr, "mnuBookMarkSearch", QStringLiteral("&Search"));
+    mnuBookMarkSearch = subMenu(this, bar, "mnuBookMarkSearch", QStringLiteral("&Search"));
     mnuBookMarkSch = entry(mnuBookMarkSearch, "mnuBookMarkSch", QStringLiteral("BookMark"));
 
-    mnuAdmin = subMenu(this, bar, nullptr, "mnuAdmin", QStringLiteral("&Admin"));
-    mnuUpdate =
-        subMenu(this, nullptr, mnuAdmin->menu(), "mnuUpdate", QStringLiteral("Maintenance"));
+    mnuAdmin = subMenu(this, bar, "mnuAdmin", QStringLiteral("&Admin"));
+    mnuUpdate = subMenu(this, mnuAdmin->menu(), "mnuUpdate", QStringLiteral("Maintenance"));
     mnuAuthor = entry(mnuUpdate, "mnuAuthor", QStringLiteral("Authors"));
     mnuUser = entry(mnuUpdate, "mnuUser", QStringLiteral("Users"));
-    mnuModify = subMenu(this, nullptr, mnuAdmin->menu(), "mnuModify", QStringLiteral("Modify"));
+    mnuModify = subMenu(this, mnuAdmin->menu(), "mnuModify", QStringLiteral("Modify"));
     mnuAddCategory = entry(mnuModify, "mnuAddCategory", QStringLiteral("Add Category"));
     mnuAddFolder = entry(mnuModify, "mnuAddFolder", QStringLiteral("Add Folder"));
     mnuAddSourceCode = entry(mnuModify, "mnuAddSourceCode", QStringLiteral("Add SourceCode"));
@@ -91,13 +65,13 @@ void frmMain::buildMenus() {
     mnuEditSource = entry(mnuModify, "mnuEditSource", QStringLiteral("Edit"));
     mnuRename = entry(mnuModify, "mnuRename", QStringLiteral("Rename"));
 
-    mnuDatabase = subMenu(this, bar, nullptr, "mnuDatabase", QStringLiteral("&Database"));
+    mnuDatabase = subMenu(this, bar, "mnuDatabase", QStringLiteral("&Database"));
     mnuOpenDatabase = entry(mnuDatabase, "mnuOpenDatabase", QStringLiteral("Open"));
     mnuNewDatabase = entry(mnuDatabase, "mnuNewDatabase", QStringLiteral("Create"));
     mnuBackup = entry(mnuDatabase, "mnuBackup", QStringLiteral("Backup"));
     mnuCompact = entry(mnuDatabase, "mnuCompact", QStringLiteral("Compact"));
 
-    mnuHelp = subMenu(this, bar, nullptr, "mnuHelp", QStringLiteral("&Help"));
+    mnuHelp = subMenu(this, bar, "mnuHelp", QStringLiteral("&Help"));
     mnuHelpContents = entry(mnuHelp, "mnuHelpContents", QStringLiteral("Contents..."));
     mnuHelpSearch = entry(mnuHelp, "mnuHelpSearch", QStringLiteral("Search..."));
     mnuHelpOnHelp = entry(mnuHelp, "mnuHelpOnHelp", QStringLiteral("How to Use Help"));
@@ -105,7 +79,7 @@ void frmMain::buildMenus() {
     mnuAboutApp = entry(mnuHelp, "mnuAboutApp", QStringLiteral("About App"));
 
     // The bookmark tree's pop-up: a menu of the bar that never shows there.
-    mnuBk = subMenu(this, bar, nullptr, "mnuBk", QStringLiteral("BkMenu"));
+    mnuBk = subMenu(this, bar, "mnuBk", QStringLiteral("BkMenu"));
     mnuBk->setVisible(false);
     mnuDelBookmark = entry(mnuBk, "mnuDelBookmark", QStringLiteral("Delete BookMark"));
 }
